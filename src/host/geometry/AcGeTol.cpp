@@ -1,0 +1,3 @@
+#include "host/geometry/AcGeTol.h"
+
+AcGeTol AcGeContext::gTol;
