@@ -1,11 +1,13 @@
 #include "framework/config/CMessageTable.h"
 
-#include "framework/config/CFilePath.h"
+#include "framework/utility/CFilePath.h"
 #include "host/base/AcString.h"
 
 #include <climits>
 
 namespace XimoGis {
+
+using Utility::CFilePath;
 
 namespace {
 

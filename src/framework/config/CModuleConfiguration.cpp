@@ -1,6 +1,7 @@
 #include "framework/config/CModuleConfiguration.h"
 
-#include "framework/config/CFilePath.h"
+#include "framework/logging/CLogEngine.h"
+#include "framework/utility/CFilePath.h"
 #include "host/base/AcString.h"
 
 #include <pugixml.hpp>
@@ -8,6 +9,8 @@
 #include <system_error>
 
 namespace XimoGis {
+
+using Utility::CFilePath;
 
 namespace {
 
@@ -167,6 +170,8 @@ bool CModuleConfiguration::LoadMessages(Settings& settings, std::wstring& error)
 
 void CModuleConfiguration::Apply(Settings&& settings) {
     m_settings = std::move(settings);
+    const LogSettings& log = m_settings.log;
+    Logging::CLogEngine::Instance()->Configure(log.enabled, log.threshold, log.file);
 }
 
 }  // namespace XimoGis

@@ -13,7 +13,8 @@
 //
 // Messages of a language come from "<install>/messages/<language>.txt" when the workspace's install
 // folder has that file, otherwise from the tables shipped with the framework. With no workspace
-// open the shipped English table is used.
+// open the shipped English table is used. Opening or closing a workspace configures the log engine
+// (Logging::CLogEngine) from the <log> settings.
 
 #include "framework/config/CMessageTable.h"
 

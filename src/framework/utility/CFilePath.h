@@ -5,7 +5,7 @@
 #include <filesystem>
 #include <string>
 
-namespace XimoGis {
+namespace XimoGis::Utility {
 
 class CFilePath {
 public:
@@ -19,4 +19,4 @@ public:
     static bool ReadFile(const std::wstring& file, std::string& bytes);
 };
 
-}  // namespace XimoGis
+}  // namespace XimoGis::Utility

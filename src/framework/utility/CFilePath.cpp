@@ -1,4 +1,4 @@
-#include "framework/config/CFilePath.h"
+#include "framework/utility/CFilePath.h"
 
 #include "host/base/AcString.h"
 
@@ -6,7 +6,7 @@
 #include <iterator>
 #include <system_error>
 
-namespace XimoGis {
+namespace XimoGis::Utility {
 
 namespace fs = std::filesystem;
 
@@ -45,4 +45,4 @@ bool CFilePath::ReadFile(const std::wstring& file, std::string& bytes) {
     return !in.bad();
 }
 
-}  // namespace XimoGis
+}  // namespace XimoGis::Utility
