@@ -1,20 +1,22 @@
 #pragma once
 // A fresh folder under the system's temporary folder for one test, removed afterwards.
 
+#include <atomic>
 #include <filesystem>
 #include <fstream>
-#include <iterator>
 #include <string>
 
-#include "framework/utility/CUtility.h"
+#include <unistd.h>
 
 namespace XimoGis::Testing {
 
 class TempFolder {
 public:
-    TempFolder()
-        : m_path(std::filesystem::temp_directory_path() /
-                 ("ximo_test_" + std::to_string(std::hash<std::wstring>{}(Utility::CUtility::CreateGUID())))) {
+    TempFolder() {
+        static std::atomic<int> counter{0};
+        m_path = std::filesystem::temp_directory_path() /
+                 ("ximo_test_" + std::to_string(::getpid()) + "_" + std::to_string(counter++));
+        std::filesystem::remove_all(m_path);
         std::filesystem::create_directories(m_path);
     }
     ~TempFolder() {
@@ -25,20 +27,21 @@ public:
     TempFolder& operator=(const TempFolder&) = delete;
 
     const std::filesystem::path& Path() const { return m_path; }
-    std::wstring Wide(const std::wstring& name = L"") const { return (m_path / name).wstring(); }
+    std::wstring Text() const { return m_path.wstring(); }
+
+    // Writes `content` (UTF-8) to `relative`, creating folders on the way.
+    void Write(const std::string& relative, const std::string& content) const {
+        const auto file = m_path / relative;
+        std::filesystem::create_directories(file.parent_path());
+        std::ofstream(file, std::ios::binary) << content;
+    }
+    std::string Read(const std::string& relative) const {
+        std::ifstream in(m_path / relative, std::ios::binary);
+        return std::string(std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>());
+    }
 
 private:
     std::filesystem::path m_path;
 };
-
-inline std::string ReadBytes(const std::filesystem::path& file) {
-    std::ifstream in(file, std::ios::binary);
-    return std::string(std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>());
-}
-
-inline void WriteBytes(const std::filesystem::path& file, const std::string& bytes) {
-    std::filesystem::create_directories(file.parent_path());
-    std::ofstream(file, std::ios::binary) << bytes;
-}
 
 }  // namespace XimoGis::Testing

@@ -1,5 +1,6 @@
 #include "framework/workspace/CWorkspaceStore.h"
 
+#include "framework/utility/CFilePath.h"
 #include "framework/workspace/CStatement.h"
 #include "framework/workspace/CTransaction.h"
 #include "host/base/AcString.h"
@@ -79,7 +80,8 @@ const wchar_t* HintFor(int primaryCode) {
 const wchar_t* CWorkspaceStore::FileName() { return L"workspace.gpkg"; }
 
 std::wstring CWorkspaceStore::PathInWorkspace(const std::wstring& workspaceFolder) {
-    return (std::filesystem::path(workspaceFolder) / FileName()).lexically_normal().wstring();
+    using Utility::CFilePath;
+    return CFilePath::ToText((CFilePath::ToPath(workspaceFolder) / CFilePath::ToPath(FileName())).lexically_normal());
 }
 
 CWorkspaceStore::CWorkspaceStore() = default;
@@ -93,7 +95,7 @@ bool CWorkspaceStore::Open(const std::wstring& path, enmOpenMode mode, std::wstr
     Close();
     m_path = path;
     std::error_code ec;
-    const fs::path file(path);
+    const fs::path file = Utility::CFilePath::ToPath(path);
     const bool existed = fs::exists(file, ec);
     if (!existed && mode != omCreate) {
         error = FormatError(L"the file does not exist", false);

@@ -7,9 +7,7 @@
 #include <gtest/gtest.h>
 #include <sqlite3.h>
 
-using XimoGis::Testing::ReadBytes;
 using XimoGis::Testing::TempFolder;
-using XimoGis::Testing::WriteBytes;
 using XimoGis::Workspace::CStatement;
 using XimoGis::Workspace::CTransaction;
 using XimoGis::Workspace::CWorkspaceStore;
@@ -33,8 +31,8 @@ int QueryInt(const std::filesystem::path& file, const char* sql) {
 
 TEST(CWorkspaceStore, CreatesAGeoPackageWithTheCoreTables) {
     TempFolder folder;
-    const std::wstring path = CWorkspaceStore::PathInWorkspace(folder.Wide());
-    EXPECT_EQ(path, folder.Wide(L"workspace.gpkg"));
+    const std::wstring path = CWorkspaceStore::PathInWorkspace(folder.Text());
+    EXPECT_EQ(path, (folder.Path() / "workspace.gpkg").wstring());
     {
         CWorkspaceStore store;
         std::wstring error;
@@ -58,7 +56,7 @@ TEST(CWorkspaceStore, CreatesAGeoPackageWithTheCoreTables) {
 
 TEST(CWorkspaceStore, MissingFileIsAnErrorUnlessCreated) {
     TempFolder folder;
-    const std::wstring path = folder.Wide(L"workspace.gpkg");
+    const std::wstring path = (folder.Path() / "workspace.gpkg").wstring();
     for (auto mode : {CWorkspaceStore::omReadOnly, CWorkspaceStore::omReadWrite}) {
         CWorkspaceStore store;
         std::wstring error;
@@ -74,7 +72,7 @@ TEST(CWorkspaceStore, DamagedFileIsReportedAndLeftUntouched) {
     TempFolder folder;
     const auto file = folder.Path() / "workspace.gpkg";
     const std::string garbage(4096, '\x5A');
-    WriteBytes(file, garbage);
+    folder.Write("workspace.gpkg", garbage);
     for (auto mode : {CWorkspaceStore::omReadOnly, CWorkspaceStore::omReadWrite, CWorkspaceStore::omCreate}) {
         CWorkspaceStore store;
         std::wstring error;
@@ -82,7 +80,7 @@ TEST(CWorkspaceStore, DamagedFileIsReportedAndLeftUntouched) {
         EXPECT_NE(error.find(file.wstring()), std::wstring::npos) << error;
         EXPECT_NE(error.find(L"damaged"), std::wstring::npos) << error;
     }
-    EXPECT_EQ(ReadBytes(file), garbage);
+    EXPECT_EQ(folder.Read("workspace.gpkg"), garbage);
 }
 
 TEST(CWorkspaceStore, PlainSqliteDatabaseIsNotAGeoPackage) {
@@ -102,7 +100,7 @@ TEST(CWorkspaceStore, PlainSqliteDatabaseIsNotAGeoPackage) {
 
 TEST(CWorkspaceStore, ReadOnlyStoreRefusesWrites) {
     TempFolder folder;
-    const std::wstring path = folder.Wide(L"workspace.gpkg");
+    const std::wstring path = (folder.Path() / "workspace.gpkg").wstring();
     std::wstring error;
     {
         CWorkspaceStore store;
@@ -182,7 +180,7 @@ TEST(CWorkspaceStore, StatementsBindAndReadBackValues) {
     TempFolder folder;
     std::wstring error;
     CWorkspaceStore store;
-    ASSERT_TRUE(store.Open(folder.Wide(L"workspace.gpkg"), CWorkspaceStore::omCreate, error)) << error;
+    ASSERT_TRUE(store.Open((folder.Path() / "workspace.gpkg").wstring(), CWorkspaceStore::omCreate, error)) << error;
     ASSERT_TRUE(store.Execute("CREATE TABLE v (i INTEGER, b INTEGER, d REAL, t TEXT, n TEXT)", error)) << error;
     {
         CStatement insert(store, "INSERT INTO v VALUES (?, ?, ?, ?, ?)");
@@ -204,5 +202,5 @@ TEST(CWorkspaceStore, StatementsBindAndReadBackValues) {
     EXPECT_FALSE(broken.Next());
     EXPECT_TRUE(broken.Failed());
     EXPECT_NE(broken.GetError().find(L"nowhere"), std::wstring::npos);
-    EXPECT_NE(broken.GetError().find(folder.Wide(L"workspace.gpkg")), std::wstring::npos);
+    EXPECT_NE(broken.GetError().find((folder.Path() / "workspace.gpkg").wstring()), std::wstring::npos);
 }
