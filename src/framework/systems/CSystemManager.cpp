@@ -116,8 +116,11 @@ bool CSystemManager::WriteStore(const boost::function<bool(CWorkspaceStore&, std
 }
 
 bool CSystemManager::CheckOwnSystem(const CGisSystem* system, std::wstring& error) const {
-    if (system && GetSystemById(system->GetSystemId()) == system) return true;
-    error = system ? L"The " + Describe(*system) + L" is not a system of the open workspace" : L"No system given";
+    // Compared by address only: a pointer to a deleted system must not be followed.
+    for (const auto& own : m_systems.GetSystemList()) {
+        if (system && own.get() == system) return true;
+    }
+    error = system ? L"The system given is not one of the open workspace" : L"No system given";
     return false;
 }
 

@@ -1,0 +1,13 @@
+#pragma once
+// Kinds of framework entities, as stamped into the EntityType attribute of drawing entities and
+// given to repository item factories. Modules add their kinds here as they come.
+
+namespace XimoGis {
+
+enum enmEntityType : int {
+    etUndefined = 0,
+    etAssemblyScheme = 256,   // an entity of a drawn assembly scheme sheet
+    etAssemblyElement = 512,  // an entity of an element drawn into a scheme
+};
+
+}  // namespace XimoGis
