@@ -1,6 +1,7 @@
 #include "framework/logging/CFunctionLogger.h"
 
 #include "framework/TempFolder.h"
+#include "framework/utility/CTimeStamp.h"
 #include "framework/logging/CLogEngine.h"
 
 #include <gtest/gtest.h>
@@ -10,16 +11,18 @@
 using XimoGis::Logging::CFunctionLogger;
 using XimoGis::Logging::CLogEngine;
 
+using XimoGis::Utility::CTimeStamp;
+
 namespace {
 
 class FunctionLogger : public ::testing::Test {
 protected:
     void SetUp() override {
         engine->Configure(true, 3, folder.Text() + L"/ximo.log");
-        engine->SetClock([] { return std::wstring(L"T"); });
+        CTimeStamp::SetClock([] { return std::wstring(L"T"); });
     }
     void TearDown() override {
-        engine->SetClock(nullptr);
+        CTimeStamp::SetClock(nullptr);
         engine->Configure(false, 3, L"");
     }
     std::string Log() const { return folder.Read("ximo.log"); }
