@@ -5,36 +5,30 @@
 using XimoGis::Data::CPropertyValue;
 
 TEST(CPropertyValue, NullDiffersFromEmptyText) {
-    const CPropertyValue null;
-    const CPropertyValue empty(L"");
-    EXPECT_TRUE(null.IsNull());
-    EXPECT_FALSE(empty.IsNull());
-    EXPECT_NE(null, empty);
-    EXPECT_EQ(null.GetText(), L"");
+    EXPECT_TRUE(CPropertyValue().IsNull());
     EXPECT_TRUE(CPropertyValue(static_cast<const wchar_t*>(nullptr)).IsNull());
+    EXPECT_NE(CPropertyValue(), CPropertyValue(L""));
     double d = 1.5;
-    EXPECT_FALSE(null.ToDouble(d));
+    EXPECT_FALSE(CPropertyValue().ToDouble(d));
     EXPECT_EQ(d, 1.5);
 }
 
-TEST(CPropertyValue, TypedValuesConvert) {
-    EXPECT_EQ(CPropertyValue(7).GetText(), L"7");
+TEST(CPropertyValue, NumbersReadBackExactlyAndGarbageIsRefused) {
+    for (double v : {0.1, 1.0 / 3.0, -2.5e-300, 1.7976931348623157e308}) {
+        double back = 0.0;
+        ASSERT_TRUE(CPropertyValue(v).ToDouble(back));
+        EXPECT_EQ(back, v);
+    }
+    EXPECT_EQ(CPropertyValue(210.0).GetText(), L"210");
     EXPECT_EQ(CPropertyValue(-8L).GetText(), L"-8");
-    EXPECT_EQ(CPropertyValue(0.25).GetText(), L"0.25");
-    double d = 0.0;
-    EXPECT_TRUE(CPropertyValue(0.1).ToDouble(d));
-    EXPECT_EQ(d, 0.1);
     int i = 0;
-    EXPECT_TRUE(CPropertyValue(L"2.7").ToInt(i));
+    EXPECT_TRUE(CPropertyValue(L" +2.7 ").ToInt(i));  // cut towards zero
     EXPECT_EQ(i, 2);
-    EXPECT_TRUE(CPropertyValue(L"-2.7").ToInt(i));
-    EXPECT_EQ(i, -2);
-    i = 5;
-    EXPECT_FALSE(CPropertyValue(L"Continuous").ToInt(i));
-    EXPECT_FALSE(CPropertyValue(L"1e12").ToInt(i));
-    EXPECT_FALSE(CPropertyValue(L"nan").ToInt(i));
-    EXPECT_EQ(i, 5);
     long l = 0;
     EXPECT_TRUE(CPropertyValue(L"1e12").ToLong(l));
     EXPECT_EQ(l, 1000000000000L);
+    i = 5;
+    for (const wchar_t* bad : {L"", L"Continuous", L"1.2.3", L"12abc", L"+-1", L"1,5", L"\uFF11", L"1e12", L"nan"})
+        EXPECT_FALSE(CPropertyValue(bad).ToInt(i)) << bad;
+    EXPECT_EQ(i, 5);
 }
