@@ -1,7 +1,6 @@
 #include "framework/data/CNumberText.h"
 
 #include <charconv>
-#include <limits>
 #include <system_error>
 
 namespace XimoGis::Data {
@@ -27,6 +26,18 @@ bool ToAsciiNumber(std::wstring_view text, std::string& out) {
     return true;
 }
 
+// The whole text must be one number of type T.
+template <typename T>
+bool ParseWhole(std::wstring_view text, T& value) {
+    std::string ascii;
+    if (!ToAsciiNumber(text, ascii)) return false;
+    T parsed{};
+    const auto result = std::from_chars(ascii.data(), ascii.data() + ascii.size(), parsed);
+    if (result.ec != std::errc() || result.ptr != ascii.data() + ascii.size()) return false;
+    value = parsed;
+    return true;
+}
+
 }  // namespace
 
 std::wstring CNumberText::FormatDouble(double value) {
@@ -36,31 +47,15 @@ std::wstring CNumberText::FormatDouble(double value) {
 }
 
 bool CNumberText::ParseDouble(std::wstring_view text, double& value) {
-    std::string ascii;
-    if (!ToAsciiNumber(text, ascii)) return false;
-    double parsed = 0.0;
-    const auto result = std::from_chars(ascii.data(), ascii.data() + ascii.size(), parsed);
-    if (result.ec != std::errc() || result.ptr != ascii.data() + ascii.size()) return false;
-    value = parsed;
-    return true;
+    return ParseWhole(text, value);
 }
 
 bool CNumberText::ParseLong(std::wstring_view text, long& value) {
-    std::string ascii;
-    if (!ToAsciiNumber(text, ascii)) return false;
-    long parsed = 0;
-    const auto result = std::from_chars(ascii.data(), ascii.data() + ascii.size(), parsed);
-    if (result.ec != std::errc() || result.ptr != ascii.data() + ascii.size()) return false;
-    value = parsed;
-    return true;
+    return ParseWhole(text, value);
 }
 
 bool CNumberText::ParseInt(std::wstring_view text, int& value) {
-    long parsed = 0;
-    if (!ParseLong(text, parsed)) return false;
-    if (parsed < std::numeric_limits<int>::min() || parsed > std::numeric_limits<int>::max()) return false;
-    value = static_cast<int>(parsed);
-    return true;
+    return ParseWhole(text, value);
 }
 
 }  // namespace XimoGis::Data
