@@ -45,7 +45,7 @@ bool ReadLogSettings(const pugi::xml_node& log, const std::wstring& workspace, c
         const std::wstring threshold = Text(log.attribute("threshold").as_string("3"));
         if (threshold.empty() || threshold.size() > 4 ||
             threshold.find_first_not_of(L"0123456789") != std::wstring::npos) {
-            error = file + L": <log threshold> must be a whole number from 0, not '" + threshold + L"'";
+            error = file + L": <log threshold> must be a whole number (0 or more), not '" + threshold + L"'";
             return false;
         }
         settings.threshold = std::stoi(threshold);

@@ -1,11 +1,10 @@
 #include "framework/logging/CLogEngine.h"
 
 #include "framework/utility/CFilePath.h"
+#include "framework/utility/CTimeStamp.h"
 #include "host/base/AcString.h"
 
-#include <chrono>
 #include <cwchar>
-#include <ctime>
 #include <system_error>
 
 namespace XimoGis::Logging {
@@ -64,21 +63,8 @@ std::wstring CLogEngine::FormatLine(const std::wstring& sourceFile, int line, co
                                     const std::wstring& text) const {
     wchar_t number[16];
     std::swprintf(number, 16, L"%5.5i", line);
-    return L"[" + (m_clock ? m_clock() : LocalTime()) + L"] " + PadRight(sourceFile, 32) + L"(" + number +
+    return L"[" + Utility::CTimeStamp::Now() + L"] " + PadRight(sourceFile, 32) + L"(" + number +
            L"): [" + PadRight(function, 16) + L"], " + text;
-}
-
-std::wstring CLogEngine::LocalTime() {
-    const auto now = std::chrono::system_clock::now();
-    const std::time_t seconds = std::chrono::system_clock::to_time_t(now);
-    const auto millis =
-        std::chrono::duration_cast<std::chrono::milliseconds>(now.time_since_epoch()).count() % 1000;
-    std::tm local{};
-    localtime_r(&seconds, &local);
-    wchar_t text[32];
-    std::swprintf(text, 32, L"%04d-%02d-%02d %02d:%02d:%02d.%03d", local.tm_year + 1900, local.tm_mon + 1,
-                  local.tm_mday, local.tm_hour, local.tm_min, local.tm_sec, static_cast<int>(millis));
-    return text;
 }
 
 }  // namespace XimoGis::Logging

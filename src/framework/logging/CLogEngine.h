@@ -3,22 +3,20 @@
 // appended to. Every line reads
 //   "[<time>] <source file, padded to 32>(<line, 5 digits>): [<function, padded to 16>], <text>"
 // (the format "[%s] %-32s(%5.5i): [%-16s], "), where the source file is named without extension,
-// the function is the qualified function or operation name and <time> is local time
-// "YYYY-MM-DD HH:MM:SS.mmm". A line is written only when logging is on and its level is at or
-// below the threshold; the level itself is not printed. Failures to write are never reported.
+// the function is the qualified function or operation name and <time> is the local time from
+// Utility::CTimeStamp ("YYYY-MM-DD HH:MM:SS.mmm"). A line is written only when logging is on and
+// its level is at or below the threshold; the level itself is not printed. Failures to write are
+// never reported.
 //
 // The open workspace's <log> settings configure the engine (CModuleConfiguration).
 
 #include <fstream>
-#include <functional>
 #include <string>
 
 namespace XimoGis::Logging {
 
 class CLogEngine {
 public:
-    using Clock = std::function<std::wstring()>;
-
     static CLogEngine* Instance();
 
     void Configure(bool loggingOn, int threshold, const std::wstring& file);
@@ -28,9 +26,6 @@ public:
     void SetThreshold(int threshold) { m_threshold = threshold; }
     const std::wstring& GetFile() const { return m_file; }
     void SetFile(const std::wstring& file);
-    // Replaces the source of the time stamp (tests need a fixed one); an empty clock restores the
-    // local time.
-    void SetClock(Clock clock) { m_clock = std::move(clock); }
 
     // True when a line of `level` would be written.
     bool IsEnabled(int level) const { return m_loggingOn && level <= m_threshold; }
@@ -48,13 +43,11 @@ public:
 
 private:
     CLogEngine() = default;
-    static std::wstring LocalTime();
 
     bool m_loggingOn = false;
     int m_threshold = 3;
     std::wstring m_file;
     std::ofstream m_stream;
-    Clock m_clock;
 };
 
 }  // namespace XimoGis::Logging

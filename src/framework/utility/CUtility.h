@@ -3,6 +3,11 @@
 
 #include <string>
 
+#include <geos/geom/Geometry.h>
+
+#include "host/base/AcArray.h"
+#include "host/database/AcDbObjectId.h"
+
 namespace XimoGis::Utility {
 
 class CUtility {
@@ -11,6 +16,12 @@ public:
     // the form the framework writes into entity attributes and logs.
     static std::wstring CreateGUID();
     static bool FileExists(const std::wstring& path);
+    // Erases the entities of the list that can be opened; returns how many were erased.
+    static int EraseElements(const AcDbObjectIdArray& ids);
+    // Draws a geometry into model space of the working database in a colour: points as points,
+    // line strings as polylines, polygons as closed polylines per ring, collections part by part.
+    // The new ids are appended to ids when given. Returns the number of entities drawn.
+    static int drawGeometry(const geos::geom::Geometry* geometry, Adesk::UInt16 color, AcDbObjectIdArray* ids = nullptr);
 };
 
 }  // namespace XimoGis::Utility

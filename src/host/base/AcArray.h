@@ -20,6 +20,8 @@ public:
     const T& at(int i) const { return m_items.at(static_cast<std::size_t>(i)); }
     T& first() { return m_items.front(); }
     T& last() { return m_items.back(); }
+    const T& first() const { return m_items.front(); }
+    const T& last() const { return m_items.back(); }
 
     int append(const T& value) { m_items.push_back(value); return length() - 1; }
     AcArray& append(const AcArray& other) {

@@ -1,0 +1,48 @@
+#include "framework/dialogs/CCustomDialogRegistry.h"
+
+namespace XimoGis::Data {
+
+CCustomDialogRegistry* CCustomDialogRegistry::Instance() {
+    static CCustomDialogRegistry registry;
+    return &registry;
+}
+
+bool CCustomDialogRegistry::RegisterDialog(const std::wstring& controlId,
+                                           const boost::shared_ptr<ICustomDialog>& dialog) {
+    if (controlId.empty() || !dialog) return false;
+    m_dialogs[controlId] = dialog;
+    return true;
+}
+
+bool CCustomDialogRegistry::UnregisterDialog(const std::wstring& controlId) {
+    return m_dialogs.erase(controlId) > 0;
+}
+
+boost::shared_ptr<ICustomDialog> CCustomDialogRegistry::GetDialog(const std::wstring& controlId) const {
+    const auto found = m_dialogs.find(controlId);
+    return found == m_dialogs.end() ? boost::shared_ptr<ICustomDialog>() : found->second;
+}
+
+void CCustomDialogRegistry::SetPresetValue(const std::wstring& controlId, const std::wstring& value) {
+    m_presetValues[controlId] = value;
+}
+
+bool CCustomDialogRegistry::ClearPresetValue(const std::wstring& controlId) {
+    return m_presetValues.erase(controlId) > 0;
+}
+
+void CCustomDialogRegistry::ClearPresetValues() {
+    m_presetValues.clear();
+}
+
+enmCustomDialogResult CCustomDialogRegistry::RunDialog(CPropertyEx& property, CPropertiesEx* properties) {
+    const auto dialog = GetDialog(property.GetCustomControlId());
+    if (!dialog) return enmCustomDialogResult::NoDialog;
+    const auto answer = m_presetValues.find(property.GetCustomControlId());
+    if (answer == m_presetValues.end() || !dialog->Run(property, properties, answer->second))
+        return enmCustomDialogResult::Cancelled;
+    if (properties) properties->ApplyDependencies(property.GetTag());
+    return enmCustomDialogResult::Chosen;
+}
+
+}  // namespace XimoGis::Data
