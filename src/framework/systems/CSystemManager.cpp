@@ -39,6 +39,11 @@ bool CheckNewSystem(int systemId, const std::wstring& name, const std::vector<CG
                 error = L"System " + std::to_wstring(systemId) + L": every layer needs a reference and a name";
                 return false;
             }
+            if (layer.GetColorIndex() < 1 || layer.GetColorIndex() > 255) {
+                error = L"System " + std::to_wstring(systemId) + L": layer \"" + layer.GetLayerName() +
+                        L"\" has colour index " + std::to_wstring(layer.GetColorIndex()) + L", not 1 to 255";
+                return false;
+            }
             if (!references.insert(layer.GetReference()).second) {
                 error = L"System " + std::to_wstring(systemId) + L": layer reference \"" + layer.GetReference() +
                         L"\" is given twice";

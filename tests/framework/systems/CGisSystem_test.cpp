@@ -1,6 +1,8 @@
 #include "framework/systems/CGisSystem.h"
 
 #include "framework/TempFolder.h"
+#include "host/database/AcDbDatabase.h"
+#include "host/database/acdbOpenObject.h"
 
 #include <gtest/gtest.h>
 
@@ -16,7 +18,8 @@ CGisSystem MakeSystem(const TempFolder& folder) {
     return CGisSystem(3, L"Vodovod", 8,
                       {CGisSystemLayer(L"SCHEME", L"AS_SCHEME", 7, L"Continuous"),
                        CGisSystemLayer(L"SCHEME_NP", L"AS_SCHEME_NP", 1, L"Continuous"),
-                       CGisSystemLayer(L"04BOM", L"AS_BOM", 3, L"DASHED")},
+                       CGisSystemLayer(L"04BOM", L"AS_BOM", 3, L"DASHED"),
+                       CGisSystemLayer(L"01CMMNT", L"AS_COMMENTS", 2, L"NO_SUCH_LINETYPE")},
                       folder.Text());
 }
 
@@ -32,7 +35,7 @@ TEST(CGisSystem, LayersAreFoundByExactReference) {
     EXPECT_EQ(bom->GetLinetypeName(), L"DASHED");
     EXPECT_EQ(system.GetLayerByReference(L"SCHEME_NP")->GetLayerName(), L"AS_SCHEME_NP");
     EXPECT_EQ(system.GetLayerByReference(L"scheme"), nullptr);
-    EXPECT_EQ(system.GetLayerByReference(L"01CMMNT"), nullptr);
+    EXPECT_EQ(system.GetLayerByReference(L"05TEXT"), nullptr);
     EXPECT_EQ(system.GetLayerByReference(nullptr), nullptr);
 }
 
@@ -88,4 +91,28 @@ TEST(CGisSystem, ReferenceIdsCannotLeaveTheSystemFolder) {
     EXPECT_TRUE(system.GetSubXMLPath(nullptr).empty());
     EXPECT_FALSE(std::filesystem::exists(folder.Path() / "systems"));
     EXPECT_FALSE(system.GetSubXMLPath(L"AS_2-b").empty());
+}
+
+TEST(CGisSystem, RecreatesItsLayersInTheDrawing) {
+    TempFolder folder;
+    CGisSystem system = MakeSystem(folder);
+    AcDbDatabase database;
+    AcDbObjectId bomId;
+    ASSERT_EQ(database.addLayer(bomId, L"AS_BOM", 200, L"Continuous"), Acad::eOk);
+
+    ASSERT_TRUE(system.RecreateSystemlayers(&database));
+    for (const CGisSystemLayer& layer : system.GetLayers()) {
+        AcDbObjectPointer<AcDbLayerTableRecord> record(database.layerId(layer.GetLayerName()), AcDb::kForRead);
+        ASSERT_TRUE(record) << layer.GetLayerName();
+        EXPECT_EQ(record->colorIndex(), layer.GetColorIndex()) << layer.GetLayerName();
+    }
+    EXPECT_EQ(database.layerId(L"AS_BOM"), bomId);
+    AcDbObjectPointer<AcDbLayerTableRecord> bom(bomId, AcDb::kForRead);
+    EXPECT_EQ(bom->linetypeObjectId(), database.linetypeId(L"DASHED"));
+    AcDbObjectPointer<AcDbLayerTableRecord> comments(database.layerId(L"AS_COMMENTS"), AcDb::kForRead);
+    EXPECT_EQ(comments->linetypeObjectId(), database.continuousLinetype());
+
+    // Without a database of its own it works on the host's working drawing, if there is one.
+    acdbHostApplicationServices()->setWorkingDatabase(nullptr);
+    EXPECT_FALSE(system.RecreateSystemlayers());
 }

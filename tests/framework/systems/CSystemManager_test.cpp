@@ -137,6 +137,8 @@ TEST_F(SystemManagerTest, InvalidSystemsAreRefusedAndNothingIsWritten) {
     EXPECT_EQ(manager->CreateSystem(5, L"Twice", 8, twice, error), nullptr);
     EXPECT_NE(error.find(L"\"SCHEME\" is given twice"), std::wstring::npos) << error;
     EXPECT_EQ(manager->CreateSystem(5, L"Nameless", 8, {CGisSystemLayer(L"SCHEME", L"", 1, L"X")}, error), nullptr);
+    EXPECT_EQ(manager->CreateSystem(5, L"Colour", 8, {CGisSystemLayer(L"SCHEME", L"S", 256, L"X")}, error), nullptr);
+    EXPECT_NE(error.find(L"colour index 256"), std::wstring::npos) << error;
 
     EXPECT_EQ(manager->GetSystems()->GetCount(), 1u);
     EXPECT_EQ(QueryInt(Store(), "SELECT count(*) FROM ximo_systems"), 1);
