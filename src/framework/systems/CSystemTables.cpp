@@ -116,7 +116,8 @@ bool CSystemTables::Delete(CWorkspaceStore& store, int systemId, std::wstring& e
 bool CSystemTables::DeleteEntities(CWorkspaceStore& store, int systemId, std::wstring& error) {
     std::vector<std::string> tables;
     {
-        CStatement query(store, "SELECT table_name FROM gpkg_contents WHERE table_name NOT IN (?, ?) ORDER BY table_name");
+        CStatement query(store,
+                         "SELECT table_name FROM gpkg_contents WHERE table_name NOT IN (?, ?) ORDER BY table_name");
         query.Bind(1, std::string(kSystemsTable)).Bind(2, std::string(kLayersTable));
         while (query.Next()) {
             std::string table = query.GetUtf8(0);

@@ -64,14 +64,21 @@ INSERT INTO gpkg_spatial_ref_sys VALUES
 const wchar_t* HintFor(int primaryCode) {
     switch (primaryCode) {
         case SQLITE_BUSY:
-        case SQLITE_LOCKED: return L"the file is locked by another program";
+        case SQLITE_LOCKED:
+            return L"the file is locked by another program";
         case SQLITE_CORRUPT:
-        case SQLITE_NOTADB: return L"the file is damaged or not a database";
-        case SQLITE_READONLY: return L"the file or its folder is read-only";
-        case SQLITE_CANTOPEN: return L"the file cannot be opened";
-        case SQLITE_FULL: return L"the disk is full";
-        case SQLITE_IOERR: return L"the file cannot be read or written";
-        default: return nullptr;
+        case SQLITE_NOTADB:
+            return L"the file is damaged or not a database";
+        case SQLITE_READONLY:
+            return L"the file or its folder is read-only";
+        case SQLITE_CANTOPEN:
+            return L"the file cannot be opened";
+        case SQLITE_FULL:
+            return L"the disk is full";
+        case SQLITE_IOERR:
+            return L"the file cannot be read or written";
+        default:
+            return nullptr;
     }
 }
 
