@@ -24,7 +24,7 @@ CREATE TABLE ximo_systems (
   system_id INTEGER NOT NULL UNIQUE,
   name TEXT NOT NULL,
   topology_type INTEGER NOT NULL,
-  active INTEGER NOT NULL DEFAULT 0 CHECK (active IN (0, 1))
+  active BOOLEAN NOT NULL DEFAULT 0 CHECK (active IN (0, 1))
 ))SQL";
 
 const char* const kCreateLayers = R"SQL(

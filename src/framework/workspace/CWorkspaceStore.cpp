@@ -204,15 +204,14 @@ bool CWorkspaceStore::Execute(const char* sql, std::wstring& error) {
 
 bool CWorkspaceStore::HasTable(const std::string& table) const {
     if (!m_db) return false;
-    CStatement query(const_cast<CWorkspaceStore&>(*this),
-                     "SELECT 1 FROM sqlite_master WHERE type IN ('table', 'view') AND name = ?");
+    CStatement query(*this, "SELECT 1 FROM sqlite_master WHERE type IN ('table', 'view') AND name = ?");
     query.Bind(1, table);
     return query.Next();
 }
 
 bool CWorkspaceStore::HasColumn(const std::string& table, const std::string& column) const {
     if (!m_db) return false;
-    CStatement query(const_cast<CWorkspaceStore&>(*this), "SELECT 1 FROM pragma_table_info(?) WHERE name = ?");
+    CStatement query(*this, "SELECT 1 FROM pragma_table_info(?) WHERE name = ?");
     query.Bind(1, table).Bind(2, column);
     return query.Next();
 }

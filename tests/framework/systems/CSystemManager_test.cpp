@@ -1,6 +1,7 @@
 #include "framework/systems/CSystemManager.h"
 
 #include "framework/TempFolder.h"
+#include "framework/config/CModuleConfiguration.h"
 #include "framework/notification/CNotificationFramework.h"
 #include "framework/workspace/CWorkspaceStore.h"
 #include "framework/workspace/StoreQuery.h"
@@ -167,5 +168,8 @@ TEST_F(SystemManagerTest, BadStoreKeepsThePreviousWorkspaceOpen) {
     TempFolder empty;
     EXPECT_FALSE(manager->OpenWorkspace(empty.Text(), error));
     EXPECT_NE(error.find(L"does not exist"), std::wstring::npos) << error;
+    XimoGis::CModuleConfiguration::Instance()->Close();
+    EXPECT_FALSE(manager->OpenWorkspace(error));
+    EXPECT_NE(error.find(L"No workspace is open"), std::wstring::npos) << error;
     EXPECT_EQ(manager->GetSystemById(1), water);
 }
