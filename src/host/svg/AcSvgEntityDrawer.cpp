@@ -147,13 +147,30 @@ void AcSvgEntityDrawer::drawPolyline(const AcDbPolyline& polyline, const AcGeMat
         stroke(path, std::max(constant, 0.0));
         return;
     }
-    // Widths differ from segment to segment: each segment on its own, at its mean width.
+    // Widths differ from segment to segment: each segment on its own. A straight one whose width
+    // changes along it (an arrow head) is filled as the quadrilateral it covers; others are
+    // stroked at their mean width.
     for (unsigned i = 0; i < segments; ++i) {
-        AcSvgPath path(toPicture);
-        path.moveTo(vertex(i));
-        addSegment(path, i);
-        double start = 0.0, end = 0.0;
+        double start = 0.0, end = 0.0, bulge = 0.0;
         polyline.getWidthsAt(i, start, end);
+        polyline.getBulgeAt(i, bulge);
+        const AcGePoint3d a = vertex(i);
+        const AcGePoint3d b = vertex(i + 1);
+        AcSvgPath path(toPicture);
+        if (start != end && std::fabs(bulge) < 1e-12 && a.distanceTo(b) > 1e-12) {
+            const AcGeVector3d along = (b - a) / a.distanceTo(b);
+            const AcGeVector3d left(-along.y, along.x, 0.0);
+            path.moveTo(a + left * (start / 2.0));
+            path.lineTo(b + left * (end / 2.0));
+            path.lineTo(b - left * (end / 2.0));
+            path.lineTo(a - left * (start / 2.0));
+            path.close();
+            m_out.start("path").attribute("class", "polyline").attribute("d", path.data());
+            m_out.attribute("fill", pen.color).attribute("stroke", "none").end();
+            continue;
+        }
+        path.moveTo(a);
+        addSegment(path, i);
         stroke(path, (start + end) / 2.0);
     }
 }

@@ -73,30 +73,33 @@ std::wstring AcSvgTextDrawer::plainMTextLine(const std::wstring& line) {
     return out;
 }
 
-void AcSvgTextDrawer::drawRun(const std::wstring& shown, const AcGePoint3d& origin, const AcGeVector3d& along,
-                              const AcGeVector3d& up, double height, double width, const AcGeMatrix3d& toPicture,
+void AcSvgTextDrawer::drawRun(const std::wstring& shown, const Run& run, const AcGeMatrix3d& toPicture,
                               const std::string& color, const AcSvgTextStyle& style, const char* kind) {
     bool blank = true;
     for (wchar_t c : shown) blank = blank && std::iswspace(static_cast<wint_t>(c));
-    if (blank) return;
-    // The matrix carries direction and shape; sizes are given in picture units so that they keep
-    // their precision whatever the scale.
+    if (blank || !(run.widthFactor > 0.0)) return;
+    // The matrix carries direction, shape and the width factor; sizes are given in picture units
+    // so that they keep their precision whatever the scale.
     const double k = AcSvgPath::lengthScale(toPicture);
     if (!(k > 0.0)) return;
-    const AcGePoint3d o = toPicture * origin;
-    const AcGeVector3d a = (toPicture * along) / k;
-    const AcGeVector3d d = (toPicture * -up) / k;  // SVG glyphs stand on the base line towards -y
+    const AcGePoint3d o = toPicture * run.anchor;
+    const AcGeVector3d a = (toPicture * run.along) * (run.widthFactor / k);
+    const AcGeVector3d d = (toPicture * -run.up) / k;  // SVG glyphs stand on the base line towards -y
     const std::string matrix = "matrix(" + acsvgNumber(a.x) + ' ' + acsvgNumber(a.y) + ' ' + acsvgNumber(d.x) + ' ' +
                                acsvgNumber(d.y) + ' ' + acsvgNumber(o.x) + ' ' + acsvgNumber(o.y) + ')';
+    static constexpr const char* kAnchor[] = {"start", "middle", "end"};
     m_out.start("text")
         .attribute("class", kind)
         .attribute("transform", matrix)
-        .attribute("font-size", height / kCapHeight * k)
+        .attribute("font-size", run.height / kCapHeight * k)
         .attribute("font-family", style.fontFamily)
         .attribute("fill", color)
         .attribute("stroke", "none")
         .attribute("xml:space", "preserve");
-    if (width > 0.0) m_out.attribute("textLength", width * k).attribute("lengthAdjust", "spacingAndGlyphs");
+    if (run.column != 0) m_out.attribute("text-anchor", kAnchor[run.column]);
+    // Where the renderer supports it, the glyphs are fitted to the width the host measured.
+    const double width = acdbTextWidth(shown, run.height, run.widthFactor);
+    if (width > 0.0) m_out.attribute("textLength", width * k / run.widthFactor).attribute("lengthAdjust", "spacingAndGlyphs");
     m_out.text(shown).end();
 }
 
@@ -104,65 +107,59 @@ void AcSvgTextDrawer::drawText(const AcDbText& text, const std::wstring& shown, 
                                const std::string& color, const AcSvgTextStyle& style, const char* kind) {
     const std::wstring expanded = expandControlCodes(shown);
     if (expanded.empty()) return;
-    double height = text.height();
+    Run run;
+    run.height = text.height();
     // A text's own width factor of 1 means "as its style": texts made without one take the style's.
-    const double widthFactor = text.widthFactor() != 1.0 ? text.widthFactor() : style.widthFactor;
-    double width = acdbTextWidth(expanded, height, widthFactor);
+    run.widthFactor = text.widthFactor() != 1.0 ? text.widthFactor() : style.widthFactor;
     const double mirrorX = text.isMirroredInX() ? -1.0 : 1.0;
     const double mirrorY = text.isMirroredInY() ? -1.0 : 1.0;
     const AcGeVector3d u(std::cos(text.rotation()), std::sin(text.rotation()), 0.0);
-    const AcGeVector3d v(-u.y, u.x, 0.0);
-    AcGeVector3d along = u * mirrorX;
-    AcGeVector3d up = v * mirrorY;
-    AcGePoint3d origin;
+    run.along = u * mirrorX;
+    run.up = AcGeVector3d(-u.y, u.x, 0.0) * mirrorY;
 
     const AcDb::TextHorzMode horizontal = text.horizontalMode();
     const AcGeVector3d span = text.alignmentPoint() - text.position();
     if ((horizontal == AcDb::kTextAlign || horizontal == AcDb::kTextFit) && span.length() > 1e-9) {
         // Stretched between the two points; aligned text keeps its proportions, fitted text its height.
         const double length = span.length();
-        along = span / length;
-        up = AcGeVector3d(-along.y, along.x, 0.0) * mirrorY;
-        if (horizontal == AcDb::kTextAlign && width > 0.0) height *= length / width;
-        width = length;
-        origin = text.position();
-        if (mirrorX < 0.0) {
-            along = -along;
-            origin = text.alignmentPoint();
-        }
+        const double natural = acdbTextWidth(expanded, run.height, 1.0);
+        if (natural <= 0.0) return;
+        if (horizontal == AcDb::kTextAlign) run.height *= length / (natural * run.widthFactor);
+        run.widthFactor = length / acdbTextWidth(expanded, run.height, 1.0);
+        run.along = span / length * mirrorX;
+        run.up = AcGeVector3d(-span.y, span.x, 0.0) / length * mirrorY;
+        run.anchor = mirrorX < 0.0 ? text.alignmentPoint() : text.position();
     } else {
-        double x0 = 0.0;
+        if (horizontal == AcDb::kTextCenter || horizontal == AcDb::kTextMid) run.column = 1;
+        if (horizontal == AcDb::kTextRight) run.column = 2;
         double y0 = 0.0;
-        if (horizontal == AcDb::kTextCenter || horizontal == AcDb::kTextMid) x0 = -width / 2.0;
-        if (horizontal == AcDb::kTextRight) x0 = -width;
         switch (text.verticalMode()) {
-            case AcDb::kTextVertMid: y0 = -height / 2.0; break;
-            case AcDb::kTextTop: y0 = -height; break;
-            case AcDb::kTextBottom: y0 = height * 0.2; break;  // the point is below the descenders
+            case AcDb::kTextVertMid: y0 = -run.height / 2.0; break;
+            case AcDb::kTextTop: y0 = -run.height; break;
+            case AcDb::kTextBottom: y0 = run.height * 0.2; break;  // the point is below the descenders
             default: break;
         }
-        if (horizontal == AcDb::kTextMid) y0 = -height / 2.0;
-        origin = text.anchorPoint() + along * x0 + up * y0;
+        if (horizontal == AcDb::kTextMid) y0 = -run.height / 2.0;
+        run.anchor = text.anchorPoint() + run.up * y0;
     }
-    drawRun(expanded, origin, along, up, height, width, toPicture, color, style, kind);
+    drawRun(expanded, run, toPicture, color, style, kind);
 }
 
 void AcSvgTextDrawer::drawMText(const AcDbMText& text, const AcGeMatrix3d& toPicture, const std::string& color,
                                 const AcSvgTextStyle& style) {
     const auto lines = text.lines();
-    const double h = text.textHeight();
-    const double step = h * AcDbMText::kLineSpacing;
-    const double total = h + step * static_cast<double>(lines.size() - 1);
-    const int column = (text.attachment() - 1) % 3;  // 0 left, 1 centre, 2 right
-    const int row = (text.attachment() - 1) / 3;     // 0 top, 1 middle, 2 bottom
-    const AcGeVector3d u(std::cos(text.rotation()), std::sin(text.rotation()), 0.0);
-    const AcGeVector3d v(-u.y, u.x, 0.0);
+    Run run;
+    run.height = text.textHeight();
+    run.widthFactor = style.widthFactor;
+    run.column = (text.attachment() - 1) % 3;  // 0 left, 1 centre, 2 right
+    const int row = (text.attachment() - 1) / 3;  // 0 top, 1 middle, 2 bottom
+    run.along = AcGeVector3d(std::cos(text.rotation()), std::sin(text.rotation()), 0.0);
+    run.up = AcGeVector3d(-run.along.y, run.along.x, 0.0);
+    const double step = run.height * AcDbMText::kLineSpacing;
+    const double total = run.height + step * static_cast<double>(lines.size() - 1);
     const double top = total * row / 2.0;  // the top edge, above the location
     for (std::size_t i = 0; i < lines.size(); ++i) {
-        const std::wstring shown = expandControlCodes(plainMTextLine(lines[i]));
-        const double width = acdbTextWidth(shown, h, style.widthFactor);
-        const double x = -width * column / 2.0;
-        const double y = top - h - step * static_cast<double>(i);
-        drawRun(shown, text.location() + u * x + v * y, u, v, h, width, toPicture, color, style, "mtext");
+        run.anchor = text.location() + run.up * (top - run.height - step * static_cast<double>(i));
+        drawRun(expandControlCodes(plainMTextLine(lines[i])), run, toPicture, color, style, "mtext");
     }
 }
