@@ -82,4 +82,9 @@ bool AcEdInputRequest::typedPoint(std::wstring_view text, AcGePoint3d& point) {
 }
 
 const AcGePoint3d& AcEdInputRequest::lastPoint() { return state().lastPoint; }
-void AcEdInputRequest::setLastPoint(const AcGePoint3d& point) { state().lastPoint = point; }
+void AcEdInputRequest::returnPoint(const AcGePoint3d& point, ads_point result) {
+    state().lastPoint = point;
+    result[0] = point.x;
+    result[1] = point.y;
+    result[2] = point.z;
+}

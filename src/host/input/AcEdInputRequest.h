@@ -11,6 +11,7 @@
 #include <string_view>
 
 #include "host/base/AcadTypes.h"
+#include "host/base/resbuf.h"
 #include "host/input/AcEdInputScript.h"
 #include "host/input/AcEdKeywordList.h"
 
@@ -42,7 +43,8 @@ public:
     static bool typedPoint(std::wstring_view text, AcGePoint3d& point);
     // The last point entered.
     static const AcGePoint3d& lastPoint();
-    static void setLastPoint(const AcGePoint3d& point);
+    // Hands an entered point to the caller's result and remembers it as the last point.
+    static void returnPoint(const AcGePoint3d& point, ads_point result);
 
 private:
     std::wstring m_prompt;

@@ -30,11 +30,6 @@ int acedDragGen(const ads_name ss, const ACHAR* prompt, int, int (*callback)(ads
         picked = point;
         return RTNORM;
     });
-    if (status == RTNORM) {
-        AcEdInputRequest::setLastPoint(picked);
-        result[0] = picked.x;
-        result[1] = picked.y;
-        result[2] = picked.z;
-    }
+    if (status == RTNORM) AcEdInputRequest::returnPoint(picked, result);
     return status;
 }

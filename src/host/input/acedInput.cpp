@@ -52,12 +52,7 @@ int acedGetPoint(const ads_point, const ACHAR* prompt, ads_point result) {
         }
         return AcEdInputRequest::typedPoint(item.text, point) ? RTNORM : AcEdInputRequest::kRejected;
     });
-    if (status == RTNORM) {
-        AcEdInputRequest::setLastPoint(point);
-        result[0] = point.x;
-        result[1] = point.y;
-        result[2] = point.z;
-    }
+    if (status == RTNORM) AcEdInputRequest::returnPoint(point, result);
     return status;
 }
 
