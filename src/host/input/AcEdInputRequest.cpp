@@ -72,19 +72,22 @@ void AcEdInputRequest::setPending(int flags, const ACHAR* keywordList) {
 }
 
 const std::wstring& AcEdInputRequest::lastInput() { return state().lastInput; }
+
 void AcEdInputRequest::setLastInput(const std::wstring& text) { state().lastInput = text; }
+
+const AcGePoint3d& AcEdInputRequest::lastPoint() { return state().lastPoint; }
+
+void AcEdInputRequest::returnPoint(const AcGePoint3d& point, ads_point result) {
+    state().lastPoint = point;
+    result[0] = point.x;
+    result[1] = point.y;
+    result[2] = point.z;
+}
+
 bool AcEdInputRequest::typedPoint(std::wstring_view text, AcGePoint3d& point) {
     text = AcEdTypedInput::trim(text);
     const bool relative = !text.empty() && text.front() == L'@';
     if (!AcEdTypedInput::parsePoint(relative ? text.substr(1) : text, point)) return false;
     if (relative) point = lastPoint() + point.asVector();
     return true;
-}
-
-const AcGePoint3d& AcEdInputRequest::lastPoint() { return state().lastPoint; }
-void AcEdInputRequest::returnPoint(const AcGePoint3d& point, ads_point result) {
-    state().lastPoint = point;
-    result[0] = point.x;
-    result[1] = point.y;
-    result[2] = point.z;
 }

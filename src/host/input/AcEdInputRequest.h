@@ -25,20 +25,16 @@ public:
     explicit AcEdInputRequest(const ACHAR* prompt);
 
     bool hasFlag(int flag) const { return (m_flags & flag) != 0; }
-    const AcEdKeywordList& keywords() const { return m_keywords; }
 
     // Reads items until one ends the call and returns its status. value is asked about every
     // pick, move and typed text that is not a keyword.
     int run(const std::function<int(const AcEdInputScript::Item&)>& value);
-    // Shows the prompt again after input that was not valid.
-    void reject() const;
 
     // The settings that the next input function takes.
     static void setPending(int flags, const ACHAR* keywordList);
     // The keyword (global form) or other text of the last RTKWORD result; empty when the last
     // input function ended otherwise.
     static const std::wstring& lastInput();
-    static void setLastInput(const std::wstring& text);
     // Coordinates as typed: "X,Y[,Z]", or "@dX,dY[,dZ]" from the last point entered.
     static bool typedPoint(std::wstring_view text, AcGePoint3d& point);
     // The last point entered.
@@ -47,6 +43,10 @@ public:
     static void returnPoint(const AcGePoint3d& point, ads_point result);
 
 private:
+    static void setLastInput(const std::wstring& text);
+    // Shows the prompt again after input that was not valid.
+    void reject() const;
+
     std::wstring m_prompt;
     bool m_hasPrompt = false;
     int m_flags = 0;
