@@ -39,15 +39,3 @@ TEST(AcEdInputScript, ABadLineIsNamedAndNothingIsAdded) {
     EXPECT_FALSE(script.addScript(L"pick 1,2,3,4", &error));
     EXPECT_EQ(script.pendingCount(), 1u);
 }
-
-TEST(AcEdInputScript, PromptsAreRecordedAndClearForgetsEverything) {
-    AcEdInputScript script;
-    script.showPrompt(L"First");
-    script.showPrompt(nullptr);
-    script.showPrompt(L"Second");
-    script.addPick({0, 0, 0});
-    EXPECT_EQ(script.prompts(), (std::vector<std::wstring>{L"First", L"Second"}));
-    script.clear();
-    EXPECT_TRUE(script.prompts().empty());
-    EXPECT_TRUE(script.isEmpty());
-}
