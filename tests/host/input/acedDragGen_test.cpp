@@ -4,10 +4,8 @@
 
 #include <vector>
 
-#include "host/database/AcDbDatabase.h"
-#include "host/database/acdbOpenObject.h"
-#include "host/entities/AcDbLine.h"
 #include "host/input/AcEdInputScript.h"
+#include "host/input/InputTestDrawing.h"
 #include "host/input/acdbAdsName.h"
 #include "host/input/acedInput.h"
 #include "host/input/acedSelectionSet.h"
@@ -32,15 +30,8 @@ protected:
         acedInitGet(0, nullptr);
         g_cursor.clear();
         g_answer = RTNORM;
-        AcDbBlockTableRecord* space = nullptr;
-        acdbOpenObject(space, m_db.modelSpaceId(), AcDb::kForWrite);
-        AcDbObjectId id;
-        auto* line = new AcDbLine();
-        space->appendAcDbEntity(id, line);
-        line->close();
-        space->close();
         ads_name name;
-        acdbGetAdsName(name, id);
+        acdbGetAdsName(name, addTestLine(m_db));
         acedSSAdd(name, nullptr, m_ss);
     }
     void TearDown() override {

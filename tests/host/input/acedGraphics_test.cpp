@@ -2,10 +2,8 @@
 
 #include <gtest/gtest.h>
 
-#include "host/database/AcDbDatabase.h"
-#include "host/database/acdbOpenObject.h"
-#include "host/entities/AcDbLine.h"
 #include "host/input/AcEdScreen.h"
+#include "host/input/InputTestDrawing.h"
 #include "host/input/acdbAdsName.h"
 #include "host/input/acedSelectionSet.h"
 
@@ -21,16 +19,7 @@ protected:
         acdbHostApplicationServices()->setWorkingDatabase(m_previous);
         acedScreen()->reset();
     }
-    AcDbObjectId addLine(const AcGePoint3d& from, const AcGePoint3d& to) {
-        AcDbBlockTableRecord* space = nullptr;
-        acdbOpenObject(space, m_db.modelSpaceId(), AcDb::kForWrite);
-        AcDbObjectId id;
-        auto* line = new AcDbLine(from, to);
-        space->appendAcDbEntity(id, line);
-        line->close();
-        space->close();
-        return id;
-    }
+    AcDbObjectId addLine(const AcGePoint3d& from, const AcGePoint3d& to) { return addTestLine(m_db, from, to); }
     static CPoint pixel(double x, double y) {
         const ads_point world = {x, y, 0};
         CPoint p;
@@ -68,16 +57,13 @@ TEST_F(AcedGraphics, TransientVectorsStayUntilTheNextRedraw) {
 
 TEST_F(AcedGraphics, MalformedVectorListsDrawNothing) {
     const ads_point a = {0, 0, 0};
-    resbuf* odd = acutBuildList(RTSHORT, 1, RTPOINT, a, RTPOINT, a, RTPOINT, a, 0);
-    resbuf* noColor = acutBuildList(RTPOINT, a, RTPOINT, a, 0);
-    resbuf* colorInPair = acutBuildList(RTSHORT, 1, RTPOINT, a, RTSHORT, 2, RTPOINT, a, 0);
-    EXPECT_EQ(acedGrVecs(odd, nullptr), RTREJ);
-    EXPECT_EQ(acedGrVecs(noColor, nullptr), RTREJ);
-    EXPECT_EQ(acedGrVecs(colorInPair, nullptr), RTREJ);
+    for (resbuf* list : {acutBuildList(RTSHORT, 1, RTPOINT, a, RTPOINT, a, RTPOINT, a, 0),  // an odd point
+                         acutBuildList(RTPOINT, a, RTPOINT, a, 0),                          // no colour first
+                         acutBuildList(RTSHORT, 1, RTPOINT, a, RTSHORT, 2, RTPOINT, a, 0)}) {  // colour in a pair
+        EXPECT_EQ(acedGrVecs(list, nullptr), RTREJ);
+        acutRelRb(list);
+    }
     EXPECT_TRUE(acedScreen()->transientVectors().empty());
-    acutRelRb(odd);
-    acutRelRb(noColor);
-    acutRelRb(colorInPair);
 }
 
 TEST_F(AcedGraphics, RedrawModesHighlightAndHideEntitiesAndSets) {

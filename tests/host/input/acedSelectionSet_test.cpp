@@ -5,23 +5,10 @@
 #include <array>
 #include <vector>
 
-#include "host/database/AcDbDatabase.h"
-#include "host/database/acdbOpenObject.h"
-#include "host/entities/AcDbLine.h"
+#include "host/input/InputTestDrawing.h"
 #include "host/input/acdbAdsName.h"
 
 namespace {
-AcDbObjectId addLine(AcDbDatabase& db, double x) {
-    AcDbBlockTableRecord* space = nullptr;
-    acdbOpenObject(space, db.modelSpaceId(), AcDb::kForWrite);
-    AcDbObjectId id;
-    auto* line = new AcDbLine({x, 0, 0}, {x, 1, 0});
-    space->appendAcDbEntity(id, line);
-    line->close();
-    space->close();
-    return id;
-}
-
 void nameOf(AcDbObjectId id, ads_name name) {
     ads_name n;
     ASSERT_EQ(acdbGetAdsName(n, id), Acad::eOk);
@@ -29,23 +16,9 @@ void nameOf(AcDbObjectId id, ads_name name) {
 }
 }  // namespace
 
-TEST(AcdbAdsName, EntityNamesAndIdsConvertBothWays) {
-    AcDbDatabase db;
-    const AcDbObjectId id = addLine(db, 0);
-    ads_name name;
-    ASSERT_EQ(acdbGetAdsName(name, id), Acad::eOk);
-    AcDbObjectId back;
-    ASSERT_EQ(acdbGetObjectId(back, name), Acad::eOk);
-    EXPECT_EQ(back, id);
-    EXPECT_EQ(acdbGetAdsName(name, AcDbObjectId()), Acad::eNullObjectId);
-    EXPECT_TRUE(ads_name_nil(name));
-    EXPECT_EQ(acdbGetObjectId(back, name), Acad::eNullObjectId);
-    EXPECT_TRUE(back.isNull());
-}
-
 TEST(AcedSelectionSet, AddLengthNameMemberDeleteAndFree) {
     AcDbDatabase db;
-    const AcDbObjectId a = addLine(db, 0), b = addLine(db, 1);
+    const AcDbObjectId a = addTestLine(db), b = addTestLine(db);
     ads_name na, nb;
     nameOf(a, na);
     nameOf(b, nb);
@@ -87,7 +60,7 @@ TEST(AcedSelectionSet, AddLengthNameMemberDeleteAndFree) {
 TEST(AcedSelectionSet, EmptySetsBadNamesAndTheLimitOfOpenSets) {
     AcDbDatabase db;
     ads_name entity;
-    nameOf(addLine(db, 0), entity);
+    nameOf(addTestLine(db), entity);
     ads_name empty;
     ASSERT_EQ(acedSSAdd(nullptr, nullptr, empty), RTNORM);
     Adesk::Int32 length = -1;
