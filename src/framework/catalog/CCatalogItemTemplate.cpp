@@ -44,12 +44,6 @@ boost::shared_ptr<CCatalogItemTemplate> CCatalogItemTemplate::CreateElementBlock
     return result;
 }
 
-boost::shared_ptr<CCatalogItemTemplate> CCatalogItemTemplate::MakeDeepCopy() const {
-    auto copy = boost::make_shared<CCatalogItemTemplate>(m_itemType);
-    m_properties.MakeDeepCopy(copy->m_properties);
-    return copy;
-}
-
 bool CCatalogItemTemplate::operator==(const CCatalogItemTemplate& other) const {
     return m_itemType == other.m_itemType && m_properties == other.m_properties;
 }

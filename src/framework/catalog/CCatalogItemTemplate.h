@@ -26,7 +26,6 @@ public:
     CPropertiesEx& GetProperties() { return m_properties; }
     const CPropertiesEx& GetProperties() const { return m_properties; }
 
-    boost::shared_ptr<CCatalogItemTemplate> MakeDeepCopy() const;
     bool operator==(const CCatalogItemTemplate& other) const;
 
 private:

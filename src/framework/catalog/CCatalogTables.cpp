@@ -65,7 +65,8 @@ public:
         : m_store(store), m_name(name), m_error(error) {}
 
     bool ReadTemplates(CCatalog& catalog) {
-        CStatement query(m_store, "SELECT item_type, properties FROM ximo_catalog_templates WHERE catalog = ? ORDER BY fid");
+        CStatement query(m_store,
+                         "SELECT item_type, properties FROM ximo_catalog_templates WHERE catalog = ? ORDER BY fid");
         query.Bind(1, m_name);
         while (query.Next()) {
             auto itemTemplate = boost::make_shared<CCatalogItemTemplate>(query.GetText(0));
@@ -130,8 +131,10 @@ bool InsertItems(CStatement& insert, const CCatalog& catalog, const CCatalogItem
         const CCatalogItem& item = *items[order];
         insert.Reset(true);
         insert.Bind(1, catalog.GetName()).Bind(2, item.GetId());
-        if (parent) insert.Bind(3, parent->GetId());
-        else insert.BindNull(3);
+        if (parent)
+            insert.Bind(3, parent->GetId());
+        else
+            insert.BindNull(3);
         insert.Bind(4, static_cast<int>(order))
             .Bind(5, item.GetName())
             .Bind(6, item.IsGroup() ? 1 : 0)

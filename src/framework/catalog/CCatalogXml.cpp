@@ -70,14 +70,15 @@ public:
         return catalog;
     }
 
+private:
     bool Fail(std::ptrdiff_t offset, const std::wstring& what) {
-        const auto end = m_bytes.begin() + std::clamp<std::ptrdiff_t>(offset, 0, static_cast<std::ptrdiff_t>(m_bytes.size()));
+        const auto size = static_cast<std::ptrdiff_t>(m_bytes.size());
+        const auto end = m_bytes.begin() + std::clamp<std::ptrdiff_t>(offset, 0, size);
         const auto line = std::count(m_bytes.begin(), end, '\n') + 1;
         m_error = L"Catalog file \"" + m_file + L"\" (line " + std::to_wstring(line) + L"): " + what;
         return false;
     }
 
-private:
     bool Fail(const pugi::xml_node& node, const std::wstring& what) { return Fail(node.offset_debug(), what); }
 
     bool ReadTemplate(const pugi::xml_node& node, CCatalog& catalog) {
@@ -155,14 +156,17 @@ void WriteProperties(pugi::xml_node node, const CCatalog& catalog, const CCatalo
                 continue;
             pugi::xml_node element = values.append_child("property");
             CXmlText::SetAttribute(element, "tag", property->GetTag());
-            if (!property->GetValue().IsNull()) CXmlText::SetAttribute(element, "value", property->GetValue().GetText());
+            if (!property->GetValue().IsNull())
+                CXmlText::SetAttribute(element, "value", property->GetValue().GetText());
             CPropertyEx shownOnly = *base;
             ApplyValues(shownOnly, property->GetValue(), std::nullopt);
             std::optional<CPropertyValue> hidden;
             if (shownOnly.GetHiddenValue() != property->GetHiddenValue()) {
                 hidden = property->GetHiddenValue();
-                if (hidden->IsNull()) CXmlText::SetAttribute(element, "hiddenIsNull", 1L);
-                else CXmlText::SetAttribute(element, "hidden", hidden->GetText());
+                if (hidden->IsNull())
+                    CXmlText::SetAttribute(element, "hiddenIsNull", 1L);
+                else
+                    CXmlText::SetAttribute(element, "hidden", hidden->GetText());
             }
             ApplyValues(*base, property->GetValue(), hidden);
         }
