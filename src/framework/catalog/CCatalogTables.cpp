@@ -75,7 +75,7 @@ public:
                 return Fail(L"the template of item type \"" + itemTemplate->GetItemType() + L"\": " + why);
             catalog.SetItemTemplate(itemTemplate);
         }
-        return !query.Failed() || Fail(query.GetError());
+        return !query.Failed() || Report(query.GetError());
     }
 
     bool ReadItems(CCatalog& catalog) {
@@ -91,7 +91,7 @@ public:
             m_children[row.parentId].push_back(std::move(row));
             ++count;
         }
-        if (query.Failed()) return Fail(query.GetError());
+        if (query.Failed()) return Report(query.GetError());
         if (!AddChildren(catalog, nullptr)) return false;
         // Rows left over hang from an item that does not exist, or from one another in a ring.
         return catalog.GetItemCount() == count ||
@@ -106,7 +106,7 @@ private:
         for (const ItemRow& row : found->second) {
             std::wstring why;
             CCatalogItem* item = catalog.AddItem(parent, row.id, row.name, row.isGroup, row.itemType, why);
-            if (!item) return Fail(why);
+            if (!item) return Report(m_store.FormatError(why, false));  // names the catalog itself
             if (!item->GetProperties().ParseXML(row.properties.c_str(), &why))
                 return Fail(L"item \"" + row.name + L"\" (" + row.id + L"): " + why);
             if (!AddChildren(catalog, item)) return false;
@@ -115,7 +115,10 @@ private:
     }
 
     bool Fail(const std::wstring& what) {
-        m_error = m_store.FormatError(L"catalog \"" + m_name + L"\": " + what, false);
+        return Report(m_store.FormatError(L"catalog \"" + m_name + L"\": " + what, false));
+    }
+    bool Report(const std::wstring& error) {
+        m_error = error;
         return false;
     }
 
