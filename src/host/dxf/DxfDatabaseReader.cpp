@@ -42,6 +42,10 @@ bool readFile(const std::string& path, std::string& data, std::string& problem) 
     return true;
 }
 
+// Handles, owners, subclass markers, comments and extended data: dxflib has no use for them in
+// the objects it interprets, and the builder reads them from the groups itself.
+bool readByDxflib(int code) { return code < 999 && code != 5 && code != 100 && code != 102 && code != 330; }
+
 // Feeds dxflib one group at a time through a reused string.
 class DxflibFeed {
 public:
@@ -50,13 +54,14 @@ public:
         m_value.assign(value);
         m_dxf.processDXFGroup(&m_builder, code, m_value);
     }
-    // All groups of an object but comments and extended data, which the builder reads itself.
+    // An object for dxflib to interpret (whole), or only the 0 group that ends the one before.
     void object(const DxfObject& object, bool whole) {
         const auto& groups = object.groups();
         group(0, whole ? groups.front().value : std::string_view());
         if (!whole) return;
+        const bool header = object.type() == "SECTION";
         for (std::size_t i = 1; i < groups.size(); ++i)
-            if (groups[i].code < 999) group(groups[i].code, groups[i].value);
+            if (header || readByDxflib(groups[i].code)) group(groups[i].code, groups[i].value);
     }
 
 private:
