@@ -1,6 +1,8 @@
 #include "host/dxf/DxfDatabaseBuilder.h"
 
 #include <charconv>
+#include <unordered_map>
+#include <vector>
 
 #include "host/entities/AcDbArc.h"
 #include "host/entities/AcDbAttribute.h"
@@ -45,6 +47,46 @@ void registerApplicationsOf(AcDbDatabase& db, AcDbObjectId tableId) {
             for (const AcDbXDataApp& app : record->xDataList()) db.registerApplication(app.application);
 }
 }  // namespace
+
+std::wstring dxfBlockInsertingItself(const AcDbDatabase& db) {
+    // Depth-first over the blocks the references of each block insert, with a stack of its own:
+    // a chain of many nested blocks must not exhaust the call stack.
+    enum State { kNew, kOnPath, kDone };
+    std::unordered_map<AcDbObjectId, State> state;
+    const auto inserted = [](AcDbObjectId blockId) {
+        std::vector<AcDbObjectId> out;
+        if (const auto* block = dynamic_cast<const AcDbBlockTableRecord*>(AcDbDatabase::peekObject(blockId)))
+            for (const AcDbObjectId& id : block->entityIds())
+                if (const auto* reference = dynamic_cast<const AcDbBlockReference*>(AcDbDatabase::peekObject(id)))
+                    out.push_back(reference->blockTableRecord());
+        return out;
+    };
+    const auto* table = static_cast<const AcDbBlockTable*>(AcDbDatabase::peekObject(db.blockTableId()));
+    for (const AcDbObjectId& root : table->recordIds()) {
+        if (state[root] != kNew) continue;
+        std::vector<std::pair<AcDbObjectId, std::vector<AcDbObjectId>>> path{{root, inserted(root)}};
+        state[root] = kOnPath;
+        while (!path.empty()) {
+            auto& [block, next] = path.back();
+            if (next.empty()) {
+                state[block] = kDone;
+                path.pop_back();
+                continue;
+            }
+            const AcDbObjectId child = next.back();
+            next.pop_back();
+            if (state[child] == kOnPath) {
+                const auto* record = static_cast<const AcDbBlockTableRecord*>(AcDbDatabase::peekObject(child));
+                return record->name();
+            }
+            if (state[child] == kNew) {
+                state[child] = kOnPath;
+                path.emplace_back(child, inserted(child));
+            }
+        }
+    }
+    return {};
+}
 
 DxfDatabaseBuilder::DxfDatabaseBuilder(AcDbDatabase& db) : m_db(db) {}
 
@@ -143,7 +185,7 @@ void DxfDatabaseBuilder::place(AcDbEntity* entity) {
         m_db.setHandleForNextObject(0);
         delete entity;
     }
-    m_lastReference = dynamic_cast<AcDbBlockReference*>(entity) && !id.isNull() ? id : AcDbObjectId();
+    if (dynamic_cast<AcDbBlockReference*>(entity)) m_lastReference = id;
 }
 
 void DxfDatabaseBuilder::addPoint(const DL_PointData& d) { place(m_entities.point(d)); }
@@ -191,7 +233,19 @@ void DxfDatabaseBuilder::addAttribute(const DL_AttributeData& d) {
 
 void DxfDatabaseBuilder::endSequence() { m_lastReference.setNull(); }
 
-void DxfDatabaseBuilder::finish() {
+void DxfDatabaseBuilder::setObject(const DxfObject* object) {
+    // Attributes belong to the block reference right before them, which dxflib may have passed
+    // over (a reference without a block name): anything but an attribute ends the sequence.
+    if (!object || object->type() != "ATTRIB") m_lastReference.setNull();
+    m_object = object;
+}
+
+bool DxfDatabaseBuilder::finish(DxfReadError& error) {
+    const std::wstring cycle = dxfBlockInsertingItself(m_db);
+    if (!cycle.empty()) {
+        error.message = "block \"" + acutWcharToUtf8(cycle) + "\" inserts itself";
+        return false;
+    }
     ensureRecord<AcDbBlockTable, AcDbBlockTableRecord>(m_db, ACDB_MODEL_SPACE, [](auto&) {});
     ensureRecord<AcDbBlockTable, AcDbBlockTableRecord>(m_db, ACDB_PAPER_SPACE, [](auto&) {});
     ensureRecord<AcDbLinetypeTable, AcDbLinetypeTableRecord>(m_db, L"ByBlock", [](auto&) {});
@@ -208,4 +262,5 @@ void DxfDatabaseBuilder::finish() {
                                      m_db.textStyleTableId(), m_db.regAppTableId()})
         registerApplicationsOf(m_db, table);
     m_db.setHandseed(m_handseed);
+    return true;
 }

@@ -16,20 +16,25 @@
 #include "host/database/AcDbDatabase.h"
 #include "host/dxf/DxfEntityReader.h"
 #include "host/dxf/DxfObject.h"
+#include "host/dxf/DxfReadError.h"
 #include "host/dxf/DxfTableReader.h"
 #include "host/dxf/DxfTextCodec.h"
+
+// The name of a block that inserts itself, directly or through others; empty when none does.
+std::wstring dxfBlockInsertingItself(const AcDbDatabase& db);
 
 class DxfDatabaseBuilder : public DL_CreationAdapter {
 public:
     // db is a database without default records (AcDbDatabase(false)).
     explicit DxfDatabaseBuilder(AcDbDatabase& db);
 
-    void setObject(const DxfObject* object) { m_object = object; }
+    void setObject(const DxfObject* object);
     // Application ids, block records and attribute definitions.
     void objectEnded(const DxfObject& object);
     // Adds the records a drawing always has when the file lacked them, registers the
-    // applications extended data uses and continues handles from the file's seed.
-    void finish();
+    // applications extended data uses and continues handles from the file's seed. False (error
+    // set) for a drawing no one could use: a block that inserts itself.
+    bool finish(DxfReadError& error);
 
     void setVariableString(const std::string& key, const std::string& value, int code) override;
     void setVariableInt(const std::string& key, int value, int code) override;

@@ -123,6 +123,5 @@ bool DxfDatabaseReader::parse(std::string_view data, AcDbDatabase& db, DxfReadEr
         std::swap(previous, current);
         if (!pending && !structure.done()) return structure.finish(groups.line(), error);
     }
-    builder.finish();
-    return true;
+    return builder.finish(error);
 }
