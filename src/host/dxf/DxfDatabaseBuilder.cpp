@@ -129,16 +129,16 @@ void DxfDatabaseBuilder::addTextStyle(const DL_StyleData& d) {
     addRecord(m_db.textStyleTableId(), m_tables.textStyle(d));
 }
 
-void DxfDatabaseBuilder::objectEnded(const DxfObject& object) {
-    const std::string_view type = object.type();
+void DxfDatabaseBuilder::objectEnded() {
+    const std::string_view type = m_object ? m_object->type() : std::string_view();
     if (type == "APPID") {
-        addRecord(m_db.regAppTableId(), m_tables.application(object));
+        addRecord(m_db.regAppTableId(), m_tables.application(*m_object));
     } else if (type == "BLOCK_RECORD") {
-        AcDbBlockTableRecord* record = m_tables.blockRecord(object);
+        AcDbBlockTableRecord* record = m_tables.blockRecord(*m_object);
         if (record && m_db.blockId(record->name()).isNull()) addRecord(m_db.blockTableId(), record);
         else delete record;
     } else if (type == "ATTDEF") {
-        AcDbAttributeDefinition* definition = m_entities.attributeDefinition(object);
+        AcDbAttributeDefinition* definition = m_entities.attributeDefinition(*m_object);
         noteTextStyle(definition->textStyleName());
         place(definition);
     }

@@ -4,8 +4,8 @@
 // or paper space, attributes on the block reference before them.
 //
 // dxflib reports an object when the next one starts; the reader hands the builder that object's
-// groups (setObject) for what dxflib leaves out, and passes the kinds dxflib does not read at
-// all to objectEnded.
+// groups first (setObject) for what dxflib leaves out, and calls objectEnded after dxflib is
+// done with it, for the kinds dxflib does not read at all.
 
 #include <map>
 #include <string>
@@ -29,8 +29,9 @@ public:
     explicit DxfDatabaseBuilder(AcDbDatabase& db);
 
     void setObject(const DxfObject* object);
-    // Application ids, block records and attribute definitions.
-    void objectEnded(const DxfObject& object);
+    // Builds the object last set if it is of a kind dxflib does not read: application ids, block
+    // records, attribute definitions.
+    void objectEnded();
     // Adds the records a drawing always has when the file lacked them, registers the
     // applications extended data uses and continues handles from the file's seed. False (error
     // set) for a drawing no one could use: a block that inserts itself.

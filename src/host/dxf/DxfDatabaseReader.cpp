@@ -119,7 +119,7 @@ bool DxfDatabaseReader::parse(std::string_view data, AcDbDatabase& db, DxfReadEr
         // The 0 group ends the previous object: dxflib reports it to the builder now.
         builder.setObject(previous);
         dxflib.object(*current, forDxflib(current->type(), structure.section()));
-        builder.objectEnded(*previous);
+        builder.objectEnded();
         std::swap(previous, current);
         if (!pending && !structure.done()) return structure.finish(groups.line(), error);
     }

@@ -58,6 +58,9 @@ bool DxfEntityWriter::write(const AcDbEntity& entity, Adesk::UInt32 owner, bool 
         begin("LWPOLYLINE");
         polyline(static_cast<const AcDbPolyline&>(entity));
     } else if (kind == L"AcDbBlockReference") {
+        // A reference to no block has no form in a file (readers drop a nameless INSERT).
+        const AcDbObjectId block = static_cast<const AcDbBlockReference&>(entity).blockTableRecord();
+        if (block.isNull() || block.isErased()) return false;
         begin("INSERT");
         reference(static_cast<const AcDbBlockReference&>(entity));
     } else if (kind == L"AcDbText") {

@@ -107,9 +107,11 @@ bool DxfGroupReader::parseValue(DxfGroup& group, DxfReadError& error) const {
             return true;
         }
         case DxfValueType::kHandle:
-            // Some writers leave pointers to nothing empty.
-            if (trim(group.value).empty() && group.code >= 320) {
-                group.integer = 0;
+            // Pointers to other objects are not followed here; some writers leave them empty or
+            // put a name in them (a dimension style's text style). An object's own handle must be
+            // one.
+            if (group.code != 5 && group.code != 105) {
+                if (!parseHex(group.value, group.integer)) group.integer = 0;
                 return true;
             }
             if (!parseHex(group.value, group.integer)) {

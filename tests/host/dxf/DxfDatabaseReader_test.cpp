@@ -170,9 +170,10 @@ TEST(DxfDatabaseReader, DamagedFilesNeverCrashTheReader) {
 }
 
 TEST(DxfDatabaseReader, FilesOfOtherProgramsLoadAndUnknownEntitiesAreSkipped) {
-    // Code page text, UTF-8 text, escapes; entities without handles; kinds the host lacks.
+    // Code page text, UTF-8 text, escapes; entities without handles; kinds the host lacks; a
+    // pointer holding a name, as some writers put there.
     const std::string entities =
-        "  0\nLINE\n  8\nPIPES\n 62\n3\n 10\n1\n 20\n2\n 30\n0\n 11\n4\n 21\n6\n 31\n0\n"
+        "  0\nLINE\n  8\nPIPES\n 62\n3\n347\nStandard\n 10\n1\n 20\n2\n 30\n0\n 11\n4\n 21\n6\n 31\n0\n"
         "1001\nXIMO\n1000\n\xC8vor \\U+0416\n1071\n-5\n"
         "  0\nSPLINE\n  8\n0\n 70\n8\n 71\n3\n 72\n8\n 73\n4\n 40\n0\n 40\n0\n"
         "  0\nTEXT\n  8\n0\n 10\n0\n 20\n0\n 40\n2.5\n  1\n\xC5\xA0" "aht\n 50\n90\n"
