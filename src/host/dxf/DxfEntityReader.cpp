@@ -52,7 +52,7 @@ void DxfEntityReader::readCommon(AcDbEntity& entity, const DL_Attributes& attrib
     entity.setLinetypeScale(attributes.getLinetypeScale() > 0.0 ? attributes.getLinetypeScale() : 1.0);
     AcDbXDataList xdata;
     dxfReadXData(object, m_codec, xdata);
-    for (const AcDbXDataApp& app : xdata) entity.setXData(app);
+    for (AcDbXDataApp& app : xdata) entity.setXData(std::move(app));
 }
 
 AcDbLine* DxfEntityReader::line(const DL_LineData& d) const {
