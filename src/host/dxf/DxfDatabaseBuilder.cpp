@@ -39,6 +39,25 @@ void ensureRecord(AcDbDatabase& db, const std::wstring& name, Prepare prepare) {
     table->close();
 }
 
+// Opens the owner (a table, a block, a block reference) for write and adds the object to it in
+// the owner's way, under the handle the file gives it. An object the owner refuses (a name given
+// twice) is deleted. The object's id, null when refused.
+template <class Owner, class Object, class Add>
+AcDbObjectId addUnderHandle(AcDbDatabase& db, Adesk::UInt32 handle, AcDbObjectId ownerId, Object* object, Add add) {
+    Owner* owner = nullptr;
+    AcDbObjectId id;
+    if (acdbOpenObject(owner, ownerId, AcDb::kForWrite) == Acad::eOk) {
+        db.setHandleForNextObject(handle);
+        if (add(*owner, id, object) == Acad::eOk) object->close();
+        owner->close();
+    }
+    if (id.isNull()) {
+        db.setHandleForNextObject(0);
+        delete object;
+    }
+    return id;
+}
+
 void registerApplicationsOf(AcDbDatabase& db, AcDbObjectId tableId) {
     const auto* table = dynamic_cast<const AcDbSymbolTable*>(AcDbDatabase::peekObject(tableId));
     if (!table) return;
@@ -105,18 +124,10 @@ void DxfDatabaseBuilder::setVariableInt(const std::string& key, int value, int) 
 void DxfDatabaseBuilder::addRecord(AcDbObjectId tableId, AcDbSymbolTableRecord* record) {
     if (!record) return;
     m_tables.readXData(*record, *m_object);
-    AcDbSymbolTable* table = nullptr;
-    AcDbObjectId id;
-    if (acdbOpenObject(table, tableId, AcDb::kForWrite) == Acad::eOk) {
-        m_db.setHandleForNextObject(m_object->handle());
-        if (table->add(id, record) == Acad::eOk) record->close();
-        table->close();
-    }
-    // A record the table refuses (a name given twice) is dropped.
-    if (id.isNull()) {
-        m_db.setHandleForNextObject(0);
-        delete record;
-    }
+    addUnderHandle<AcDbSymbolTable>(m_db, m_object->handle(), tableId, record,
+                                    [](AcDbSymbolTable& table, AcDbObjectId& id, AcDbSymbolTableRecord* r) {
+                                        return table.add(id, r);
+                                    });
 }
 
 void DxfDatabaseBuilder::addLayer(const DL_LayerData& d) { addRecord(m_db.layerTableId(), m_tables.layer(d, *m_object, m_db)); }
@@ -144,23 +155,20 @@ void DxfDatabaseBuilder::objectEnded() {
     }
 }
 
-AcDbObjectId DxfDatabaseBuilder::blockNamed(const std::wstring& name) {
-    AcDbObjectId id = m_db.blockId(name);
+AcDbObjectId DxfDatabaseBuilder::blockNamed(const std::wstring& name, Adesk::UInt32 handle) {
+    const AcDbObjectId id = m_db.blockId(name);
     if (!id.isNull() || name.empty()) return id;
-    AcDbBlockTable* table = nullptr;
-    if (m_db.getBlockTable(table, AcDb::kForWrite) != Acad::eOk) return id;
     auto* record = new AcDbBlockTableRecord;
     record->setName(name.c_str());
-    if (table->add(id, record) == Acad::eOk) record->close(); else delete record;
-    table->close();
-    return id;
+    return addUnderHandle<AcDbSymbolTable>(m_db, handle, m_db.blockTableId(), record,
+                                           [](AcDbSymbolTable& table, AcDbObjectId& added, AcDbSymbolTableRecord* r) {
+                                               return table.add(added, r);
+                                           });
 }
 
 void DxfDatabaseBuilder::addBlock(const DL_BlockData& d) {
-    const std::wstring name = dxfBlockName(m_codec.decode(d.name));
     // Without a BLOCK_RECORD table (older files) the block record takes the BLOCK's handle.
-    if (m_db.blockId(name).isNull()) m_db.setHandleForNextObject(m_object->handle());
-    m_block = blockNamed(name);
+    m_block = blockNamed(dxfBlockName(m_codec.decode(d.name)), m_object->handle());
     AcDbBlockTableRecord* block = nullptr;
     if (acdbOpenObject(block, m_block, AcDb::kForWrite) != Acad::eOk) return;
     block->setOrigin(AcGePoint3d(d.bpx, d.bpy, d.bpz));
@@ -174,18 +182,11 @@ void DxfDatabaseBuilder::place(AcDbEntity* entity) {
     m_entities.readCommon(*entity, getAttributes(), *m_object);
     AcDbObjectId owner = m_block;
     if (owner.isNull()) owner = m_object->integer(67, 0) == 1 ? blockNamed(ACDB_PAPER_SPACE) : blockNamed(ACDB_MODEL_SPACE);
-    AcDbBlockTableRecord* block = nullptr;
-    AcDbObjectId id;
-    if (acdbOpenObject(block, owner, AcDb::kForWrite) == Acad::eOk) {
-        m_db.setHandleForNextObject(m_object->handle());
-        if (block->appendAcDbEntity(id, entity) == Acad::eOk) entity->close();
-        block->close();
-    }
-    if (id.isNull()) {
-        m_db.setHandleForNextObject(0);
-        delete entity;
-    }
-    if (dynamic_cast<AcDbBlockReference*>(entity)) m_lastReference = id;
+    const bool reference = dynamic_cast<AcDbBlockReference*>(entity) != nullptr;
+    const AcDbObjectId id = addUnderHandle<AcDbBlockTableRecord>(
+        m_db, m_object->handle(), owner, entity,
+        [](AcDbBlockTableRecord& block, AcDbObjectId& added, AcDbEntity* e) { return block.appendAcDbEntity(added, e); });
+    if (reference) m_lastReference = id;
 }
 
 void DxfDatabaseBuilder::addPoint(const DL_PointData& d) { place(m_entities.point(d)); }
@@ -214,21 +215,13 @@ void DxfDatabaseBuilder::addMText(const DL_MTextData& d) {
 }
 
 void DxfDatabaseBuilder::addAttribute(const DL_AttributeData& d) {
-    AcDbBlockReference* reference = nullptr;
-    if (m_lastReference.isNull() || acdbOpenObject(reference, m_lastReference, AcDb::kForWrite) != Acad::eOk)
-        return;  // an attribute that follows no block reference
+    if (m_lastReference.isNull()) return;  // an attribute that follows no block reference
     AcDbAttribute* attribute = m_entities.attribute(d, *m_object);
     noteTextStyle(attribute->textStyleName());
     m_entities.readCommon(*attribute, getAttributes(), *m_object);
-    AcDbObjectId id;
-    m_db.setHandleForNextObject(m_object->handle());
-    if (reference->appendAttribute(id, attribute) == Acad::eOk) {
-        attribute->close();
-    } else {
-        m_db.setHandleForNextObject(0);
-        delete attribute;
-    }
-    reference->close();
+    addUnderHandle<AcDbBlockReference>(
+        m_db, m_object->handle(), m_lastReference, attribute,
+        [](AcDbBlockReference& reference, AcDbObjectId& id, AcDbAttribute* a) { return reference.appendAttribute(id, a); });
 }
 
 void DxfDatabaseBuilder::endSequence() { m_lastReference.setNull(); }

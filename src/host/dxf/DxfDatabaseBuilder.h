@@ -60,8 +60,9 @@ private:
     void addRecord(AcDbObjectId table, AcDbSymbolTableRecord* record);
     // Adds an entity to its block under the object's handle; takes ownership.
     void place(AcDbEntity* entity);
-    // The block record of that name, made when the file has not listed it.
-    AcDbObjectId blockNamed(const std::wstring& name);
+    // The block record of that name, made (under the handle, when free) if the file has not
+    // listed it.
+    AcDbObjectId blockNamed(const std::wstring& name, Adesk::UInt32 handle = 0);
     void noteTextStyle(const std::wstring& name) { m_textStyles.emplace(acutUpperName(name), name); }
 
     AcDbDatabase& m_db;
