@@ -99,21 +99,8 @@ bool DxfDatabaseReader::parse(std::string_view data, AcDbDatabase& db, DxfReadEr
     DxfObject objects[2];
     DxfObject* previous = &objects[0];
     DxfObject* current = &objects[1];
-    DxfGroup group;
-    bool pending = false;  // group holds the 0 group of the next object
     while (!structure.done()) {
-        current->clear();
-        if (pending) current->add(group);
-        pending = false;
-        while (groups.next(group, error)) {
-            if (group.code == 0 && !current->empty()) {
-                pending = true;
-                break;
-            }
-            current->add(group);
-        }
-        if (!error.message.empty()) return false;
-        if (current->empty()) return structure.finish(groups.line(), error);
+        if (!groups.nextObject(*current, error)) return error.message.empty() && structure.finish(groups.line(), error);
         if (!structure.accept(*current, error)) return false;
         if (current->type().empty()) continue;  // comments before the first section
         // The 0 group ends the previous object: dxflib reports it to the builder now.
@@ -121,7 +108,6 @@ bool DxfDatabaseReader::parse(std::string_view data, AcDbDatabase& db, DxfReadEr
         dxflib.object(*current, forDxflib(current->type(), structure.section()));
         builder.objectEnded();
         std::swap(previous, current);
-        if (!pending && !structure.done()) return structure.finish(groups.line(), error);
     }
     return builder.finish(error);
 }

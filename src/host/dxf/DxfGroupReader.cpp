@@ -81,6 +81,21 @@ bool DxfGroupReader::next(DxfGroup& group, DxfReadError& error) {
     return parseValue(group, error);
 }
 
+bool DxfGroupReader::nextObject(DxfObject& object, DxfReadError& error) {
+    object.clear();
+    error = DxfReadError();
+    if (m_hasNext) object.add(m_next);
+    m_hasNext = false;
+    while (next(m_next, error)) {
+        if (m_next.code == 0 && !object.empty()) {
+            m_hasNext = true;
+            return true;
+        }
+        object.add(m_next);
+    }
+    return error.message.empty() && !object.empty();
+}
+
 bool DxfGroupReader::parseValue(DxfGroup& group, DxfReadError& error) const {
     switch (dxfValueType(group.code)) {
         case DxfValueType::kUnknown:
