@@ -15,21 +15,12 @@
 #include "host/entities/AcDbPolyline.h"
 
 namespace {
-template <class Table>
-AcDbObjectId tableOf(const AcDbDatabase& db);
-template <>
-AcDbObjectId tableOf<AcDbLinetypeTable>(const AcDbDatabase& db) { return db.linetypeTableId(); }
-template <>
-AcDbObjectId tableOf<AcDbTextStyleTable>(const AcDbDatabase& db) { return db.textStyleTableId(); }
-template <>
-AcDbObjectId tableOf<AcDbBlockTable>(const AcDbDatabase& db) { return db.blockTableId(); }
-
 // Adds a record of that name when the table has none; prepare sets it up first.
-template <class Table, class Record, class Prepare>
-void ensureRecord(AcDbDatabase& db, const std::wstring& name, Prepare prepare) {
+template <class Record, class Prepare>
+void ensureRecord(AcDbObjectId tableId, const std::wstring& name, Prepare prepare) {
     AcDbObjectId id;
-    Table* table = nullptr;
-    if (acdbOpenObject(table, tableOf<Table>(db), AcDb::kForWrite) != Acad::eOk) return;
+    AcDbSymbolTable* table = nullptr;
+    if (acdbOpenObject(table, tableId, AcDb::kForWrite) != Acad::eOk) return;
     if (table->getAt(name.c_str(), id, true) != Acad::eOk) {
         auto* record = new Record;
         record->setName(name.c_str());
@@ -239,17 +230,18 @@ bool DxfDatabaseBuilder::finish(DxfReadError& error) {
         error.message = "block \"" + acutWcharToUtf8(cycle) + "\" inserts itself";
         return false;
     }
-    ensureRecord<AcDbBlockTable, AcDbBlockTableRecord>(m_db, ACDB_MODEL_SPACE, [](auto&) {});
-    ensureRecord<AcDbBlockTable, AcDbBlockTableRecord>(m_db, ACDB_PAPER_SPACE, [](auto&) {});
-    ensureRecord<AcDbLinetypeTable, AcDbLinetypeTableRecord>(m_db, L"ByBlock", [](auto&) {});
-    ensureRecord<AcDbLinetypeTable, AcDbLinetypeTableRecord>(m_db, L"ByLayer", [](auto&) {});
-    ensureRecord<AcDbLinetypeTable, AcDbLinetypeTableRecord>(m_db, L"Continuous",
-                                                             [](auto& r) { r.setComments(L"Solid line"); });
+    const auto plain = [](AcDbSymbolTableRecord&) {};
+    ensureRecord<AcDbBlockTableRecord>(m_db.blockTableId(), ACDB_MODEL_SPACE, plain);
+    ensureRecord<AcDbBlockTableRecord>(m_db.blockTableId(), ACDB_PAPER_SPACE, plain);
+    ensureRecord<AcDbLinetypeTableRecord>(m_db.linetypeTableId(), L"ByBlock", plain);
+    ensureRecord<AcDbLinetypeTableRecord>(m_db.linetypeTableId(), L"ByLayer", plain);
+    ensureRecord<AcDbLinetypeTableRecord>(m_db.linetypeTableId(), L"Continuous",
+                                          [](AcDbLinetypeTableRecord& r) { r.setComments(L"Solid line"); });
     AcDbObjectId layer;
     m_db.addLayer(layer, L"0", 7, L"Continuous");
     m_textStyles.emplace(L"STANDARD", L"Standard");
     for (const auto& style : m_textStyles)
-        ensureRecord<AcDbTextStyleTable, AcDbTextStyleTableRecord>(m_db, style.second, [](auto&) {});
+        ensureRecord<AcDbTextStyleTableRecord>(m_db.textStyleTableId(), style.second, plain);
     m_db.registerApplication(L"ACAD");
     for (const AcDbObjectId table : {m_db.blockTableId(), m_db.layerTableId(), m_db.linetypeTableId(),
                                      m_db.textStyleTableId(), m_db.regAppTableId()})
