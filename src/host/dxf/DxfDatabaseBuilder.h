@@ -20,9 +20,6 @@
 #include "host/dxf/DxfTableReader.h"
 #include "host/dxf/DxfTextCodec.h"
 
-// The name of a block that inserts itself, directly or through others; empty when none does.
-std::wstring dxfBlockInsertingItself(const AcDbDatabase& db);
-
 class DxfDatabaseBuilder : public DL_CreationAdapter {
 public:
     // db is a database without default records (AcDbDatabase(false)).
