@@ -63,7 +63,7 @@ AcDbPoint* DxfEntityReader::point(const DL_PointData& d) const { return new AcDb
 
 AcDbCircle* DxfEntityReader::circle(const DL_CircleData& d, const DL_Extrusion& extrusion) const {
     const DxfOcs ocs(direction(extrusion));
-    return new AcDbCircle(ocs.toWorld(AcGePoint3d(d.cx, d.cy, d.cz)), direction(extrusion).normal(), d.radius);
+    return new AcDbCircle(ocs.toWorld(AcGePoint3d(d.cx, d.cy, d.cz)), ocs.normal(), d.radius);
 }
 
 AcDbArc* DxfEntityReader::arc(const DL_ArcData& d, const DL_Extrusion& extrusion) const {
