@@ -177,3 +177,12 @@ TEST(DxfDatabaseWriter, AFailedSaveLeavesTheOldFileAsItWas) {
     // No temporary files are left behind.
     EXPECT_EQ(std::distance(fs::directory_iterator(folder), fs::directory_iterator()), 2);
 }
+
+TEST(DxfDatabaseWriter, SavingThroughALinkReplacesTheFileItPointsTo) {
+    const fs::path folder = dxfTestFolder();
+    writeBytes(folder / "real.dxf", "the old drawing");
+    fs::create_symlink("real.dxf", folder / "link.dxf");
+    ASSERT_EQ(makeDxfTestDrawing()->dxfOut((folder / "link.dxf").wstring().c_str()), Acad::eOk);
+    EXPECT_TRUE(fs::is_symlink(folder / "link.dxf"));
+    EXPECT_NE(readBytes(folder / "real.dxf"), "the old drawing");
+}
