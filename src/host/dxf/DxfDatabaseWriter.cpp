@@ -77,7 +77,13 @@ Acad::ErrorStatus DxfDatabaseWriter::write(const std::wstring& fileName, std::ws
     ::close(fd);
 
     std::string problem;
-    bool ok = writeSections(temporary, problem);
+    bool ok = false;
+    try {
+        ok = writeSections(temporary, problem);
+    } catch (...) {
+        std::remove(temporary.c_str());  // the caller reports what went wrong
+        throw;
+    }
     if (ok && !syncFile(temporary)) {
         problem = "cannot flush the temporary file to disk: " + systemError();
         ok = false;

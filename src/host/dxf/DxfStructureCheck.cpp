@@ -25,7 +25,10 @@ bool DxfStructureCheck::accept(const DxfObject& object, DxfReadError& error) {
         return true;
     }
     if (m_section.empty()) {
-        if (type == "EOF") return m_done = true;
+        if (type == "EOF") {
+            m_done = true;
+            return true;
+        }
         if (type != "SECTION") return fail(text(type) + " outside a section");
         const DxfGroup* name = object.groups().size() > 1 ? &object.groups()[1] : nullptr;
         if (!name || name->code != 2 || name->value.empty()) return fail("a section without a name");
