@@ -37,10 +37,12 @@ void buildDrawing(AcDbDatabase& db, int lines) {
     AcDbBlockTableRecord* model = nullptr;
     acdbOpenObject(model, db.modelSpaceId(), AcDb::kForWrite);
     for (int i = 0; i < lines; ++i) {
-        auto* line = new AcDbLine(AcGePoint3d(i * 0.37, i * 1.13, 0.0), AcGePoint3d(i * 0.37 + 12.5, i * 1.13 - 3.25, 0.0));
+        const AcGePoint3d start(i * 0.37, i * 1.13, 0.0);
+        auto* line = new AcDbLine(start, start + AcGeVector3d(12.5, -3.25, 0.0));
         line->setXData(AcDbXDataApp{L"XIMO_BENCH",
                                     {AcDbXDataValue::string(L"element " + std::to_wstring(i)),
-                                     AcDbXDataValue::real(i * 0.001), AcDbXDataValue::int16(static_cast<Adesk::Int16>(i % 30000)),
+                                     AcDbXDataValue::real(i * 0.001),
+                                     AcDbXDataValue::int16(static_cast<Adesk::Int16>(i % 30000)),
                                      AcDbXDataValue::int32(i), AcDbXDataValue::point(AcGePoint3d(i, -i, 0.5))}});
         model->appendAcDbEntity(line);
         line->close();
@@ -71,7 +73,8 @@ int main(int argc, char** argv) {
     std::unique_ptr<AcDbDatabase> loaded;
     const double load = bestSeconds(
         [&] {
-            if (loaded->dxfIn(name.c_str(), &error) != Acad::eOk) std::fprintf(stderr, "%s\n", acutWcharToUtf8(error).c_str());
+            if (loaded->dxfIn(name.c_str(), &error) != Acad::eOk)
+                std::fprintf(stderr, "%s\n", acutWcharToUtf8(error).c_str());
         },
         [&] { loaded = std::make_unique<AcDbDatabase>(false); });
     const std::size_t loadedLines = modelSpaceSize(*loaded);

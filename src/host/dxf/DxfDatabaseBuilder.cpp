@@ -80,7 +80,9 @@ void DxfDatabaseBuilder::addRecord(AcDbObjectId tableId, AcDbSymbolTableRecord* 
                                     });
 }
 
-void DxfDatabaseBuilder::addLayer(const DL_LayerData& d) { addRecord(m_db.layerTableId(), m_tables.layer(d, *m_object, m_db)); }
+void DxfDatabaseBuilder::addLayer(const DL_LayerData& d) {
+    addRecord(m_db.layerTableId(), m_tables.layer(d, *m_object, m_db));
+}
 
 void DxfDatabaseBuilder::addLinetype(const DL_LinetypeData& d) {
     addRecord(m_db.linetypeTableId(), m_tables.linetype(d, *m_object));
@@ -131,11 +133,13 @@ void DxfDatabaseBuilder::endBlock() { m_block.setNull(); }
 void DxfDatabaseBuilder::place(AcDbEntity* entity) {
     m_entities.readCommon(*entity, getAttributes(), *m_object);
     AcDbObjectId owner = m_block;
-    if (owner.isNull()) owner = m_object->integer(67, 0) == 1 ? blockNamed(ACDB_PAPER_SPACE) : blockNamed(ACDB_MODEL_SPACE);
+    if (owner.isNull()) owner = blockNamed(m_object->integer(67, 0) == 1 ? ACDB_PAPER_SPACE : ACDB_MODEL_SPACE);
     const bool reference = dynamic_cast<AcDbBlockReference*>(entity) != nullptr;
     const AcDbObjectId id = addUnderHandle<AcDbBlockTableRecord>(
         m_db, m_object->handle(), owner, entity,
-        [](AcDbBlockTableRecord& block, AcDbObjectId& added, AcDbEntity* e) { return block.appendAcDbEntity(added, e); });
+        [](AcDbBlockTableRecord& block, AcDbObjectId& added, AcDbEntity* e) {
+            return block.appendAcDbEntity(added, e);
+        });
     if (reference) m_lastReference = id;
 }
 
@@ -171,7 +175,9 @@ void DxfDatabaseBuilder::addAttribute(const DL_AttributeData& d) {
     m_entities.readCommon(*attribute, getAttributes(), *m_object);
     addUnderHandle<AcDbBlockReference>(
         m_db, m_object->handle(), m_lastReference, attribute,
-        [](AcDbBlockReference& reference, AcDbObjectId& id, AcDbAttribute* a) { return reference.appendAttribute(id, a); });
+        [](AcDbBlockReference& reference, AcDbObjectId& id, AcDbAttribute* a) {
+            return reference.appendAttribute(id, a);
+        });
 }
 
 void DxfDatabaseBuilder::endSequence() { m_lastReference.setNull(); }

@@ -121,7 +121,8 @@ TEST(DxfDatabaseReader, BlocksMustBeUsable) {
     };
     const std::string insertA = "  0\nINSERT\n  2\nA\n 10\n0\n 20\n0\n";
     const std::string insertB = "  0\nINSERT\n  2\nB\n 10\n0\n 20\n0\n";
-    EXPECT_THAT(expectRefused(blocks("  0\nBLOCK\n  2\nA\n" + insertA + "  0\nENDBLK\n")), HasSubstr("\"A\" inserts itself"));
+    EXPECT_THAT(expectRefused(blocks("  0\nBLOCK\n  2\nA\n" + insertA + "  0\nENDBLK\n")),
+                HasSubstr("\"A\" inserts itself"));
     EXPECT_THAT(expectRefused(blocks("  0\nBLOCK\n  2\nA\n" + insertB + "  0\nENDBLK\n  0\nBLOCK\n  2\nB\n" + insertA +
                                      "  0\nENDBLK\n")),
                 HasSubstr("inserts itself"));
