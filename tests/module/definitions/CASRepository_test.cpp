@@ -1,0 +1,127 @@
+#include "module/definitions/CASRepository.h"
+
+#include "framework/TempFolder.h"
+#include "module/definitions/CASDefinition.h"
+#include "module/definitions/CASRepositoryFactory.h"
+#include "module/manager/CASManager.h"
+
+#include "framework/repository/CRepositoryManager.h"
+#include "framework/systems/CSystemManager.h"
+
+#include <gtest/gtest.h>
+
+#include <memory>
+
+using namespace XimoGis::AssemblySchemes;
+using XimoGis::CDefinitionRepository;
+using XimoGis::CRepositoryManager;
+using XimoGis::System::CSystemManager;
+
+namespace {
+
+const wchar_t* kTwoWithOneId =
+    L"<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n"
+    L"<schemes version=\"7\" exploded=\"1\">\n"
+    L"<asDefinition id=\"{A4}\" name=\"A4 portrait\" topologyType=\"8\"/>\n"
+    L"<asDefinition id=\"{A4}\" name=\"A4 again\"/>\n"
+    L"<comment>not a definition</comment>\n"
+    L"<asDefinition id=\"{A3}\" name=\"A3 landscape\"/>\n"
+    L"</schemes>\n";
+
+}  // namespace
+
+TEST(CASRepository, IsTheBaseRepositoryAS) {
+    const CASRepository repository;
+    EXPECT_EQ(repository.GetRepositoryKey(), L"AS");
+    EXPECT_EQ(repository.GetRootElementName(), L"schemes");
+    EXPECT_EQ(repository.GetBaseFlag(), 1);
+    EXPECT_EQ(repository.IsExploded(), 0);
+    EXPECT_EQ(repository.GetItemCount(), 0u);
+}
+
+TEST(CASRepository, KeepsBothDefinitionsOfOneId) {
+    CASRepository repository;
+    ASSERT_EQ(repository.ReadXML(kTwoWithOneId), 1);
+    ASSERT_EQ(repository.GetItemCount(), 3u);
+    EXPECT_EQ(repository.IsExploded(), 1);
+    const auto items = repository.GetRepositoryItems();
+    EXPECT_EQ(items[0]->GetName(), L"A4 portrait");
+    EXPECT_EQ(items[1]->GetName(), L"A4 again");
+    EXPECT_EQ(items[1]->GetId(), L"{A4}");
+    // Look-ups find the first.
+    EXPECT_EQ(repository.GetRepositoryItemById(L"{A4}"), items[0]);
+    auto* definition = dynamic_cast<CASDefinition*>(items[0]);
+    ASSERT_NE(definition, nullptr);
+    EXPECT_EQ(definition->GetTopologyType(), 8);
+}
+
+TEST(CASRepository, AWrongRootLoadsNothingAndDropsWhatWasLoaded) {
+    CASRepository repository;
+    ASSERT_EQ(repository.ReadXML(kTwoWithOneId), 1);
+    EXPECT_EQ(repository.ReadXML(L"<definitions><asDefinition id=\"{X}\"/></definitions>"), 0);
+    EXPECT_EQ(repository.GetItemCount(), 0u);
+    ASSERT_EQ(repository.ReadXML(kTwoWithOneId), 1);
+    EXPECT_EQ(repository.ReadXML(L"<schemes"), 0);
+    EXPECT_EQ(repository.GetItemCount(), 0u);
+    EXPECT_EQ(repository.ReadXML(nullptr), 0);
+    // A definition nested deeper than the root's children is not one of the repository's.
+    ASSERT_EQ(repository.ReadXML(L"<schemes><group><asDefinition id=\"{X}\"/></group></schemes>"), 1);
+    EXPECT_EQ(repository.GetItemCount(), 0u);
+}
+
+TEST(CASRepository, OnlyExplodedOneSetsTheFlag) {
+    CASRepository repository;
+    for (const auto& [text, flag] : {std::pair{L"<schemes exploded=\"1\"/>", 1}, std::pair{L"<schemes exploded=\"2\"/>", 0},
+                                     std::pair{L"<schemes exploded=\"1\"/>", 1}, std::pair{L"<schemes/>", 0},
+                                     std::pair{L"<schemes exploded=\"yes\"/>", 0}}) {
+        ASSERT_EQ(repository.ReadXML(text), 1) << text;
+        EXPECT_EQ(repository.IsExploded(), flag) << text;
+    }
+}
+
+TEST(CASRepository, NeverHoldsASystemBack) {
+    CASRepository repository;
+    EXPECT_EQ(repository.OnSystemDelete(nullptr), 1);
+}
+
+TEST(CASRepositoryFactory, MakesAndFreesEmptySchemeRepositories) {
+    CASRepositoryFactory factory;
+    std::unique_ptr<CDefinitionRepository> made(factory.GetRepository(L"whatever"));
+    ASSERT_TRUE(dynamic_cast<CASRepository*>(made.get()));
+    EXPECT_EQ(made->GetItemCount(), 0u);
+    factory.FreeRepositoryMemory(made.release());
+    factory.FreeRepositoryMemory(nullptr);
+    EXPECT_EQ(factory.GetRepositoryName(), L"Assembly schemes");
+}
+
+TEST(CASRepository, SavesAndLoadsThroughTheSystemsFile) {
+    XimoGis::Testing::TempFolder folder;
+    std::wstring error;
+    CSystemManager* systems = CSystemManager::Instance();
+    ASSERT_TRUE(systems->OpenWorkspace(folder.Text(), error, true)) << error;
+    auto* water = systems->CreateSystem(1, L"Vodovod", 8, {}, error);
+    ASSERT_TRUE(water) << error;
+    folder.Write("systems/1/AS.xml", "<schemes exploded=\"1\"><asDefinition id=\"{A4}\" name=\"A4\"/></schemes>");
+    CASManager::Instance();  // registers the repository factory
+    CDefinitionRepository* repository = CRepositoryManager::GetSystemRepository(water, L"AS", 0);
+    ASSERT_TRUE(dynamic_cast<CASRepository*>(repository));
+    ASSERT_EQ(repository->GetItemCount(), 1u);
+
+    auto* added = new CASDefinition();
+    added->SetName(L"A3 & more");
+    ASSERT_TRUE(repository->AddRepositoryItem(added, 0));
+    const std::wstring id = added->GetId();
+    ASSERT_TRUE(repository->Save(error)) << error;
+    const std::string saved = folder.Read("systems/1/AS.xml");
+    EXPECT_EQ(saved.rfind("<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<schemes version=\"1\" exploded=\"1\">\n"
+                          "<asDefinition id=\"{A4}\" name=\"A4\" ",
+                          0),
+              0u)
+        << saved;
+
+    repository = CRepositoryManager::GetSystemRepository(water, L"AS", CRepositoryManager::kReload);
+    ASSERT_EQ(repository->GetItemCount(), 2u);
+    EXPECT_EQ(repository->GetRepositoryItemById(id.c_str())->GetName(), L"A3 & more");
+    EXPECT_EQ(repository->GetXML(), std::wstring(saved.begin(), saved.end()));
+    systems->CloseWorkspace();
+}
