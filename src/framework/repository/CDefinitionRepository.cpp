@@ -1,5 +1,6 @@
 #include "framework/repository/CDefinitionRepository.h"
 
+#include "framework/data/CXmlText.h"
 #include "framework/notification/CNotificationFramework.h"
 #include "framework/systems/CGisSystem.h"
 #include "framework/utility/CFilePath.h"
@@ -14,28 +15,21 @@
 
 namespace XimoGis {
 
-namespace {
-
-std::wstring Text(const pugi::xml_node& element, const char* attribute) {
-    return acutUtf8ToWchar(element.attribute(attribute).as_string());
-}
-
-}  // namespace
+using Data::CXmlText;
 
 CDefinitionRepository::~CDefinitionRepository() = default;
 
 int CDefinitionRepository::ReadXML(const wchar_t* xml) {
     ClearRepository();
-    if (!xml) return 0;
     pugi::xml_document document;
-    if (!document.load_string(acutWcharToUtf8(xml).c_str())) return 0;
+    if (!CXmlText::Load(xml, document, nullptr)) return 0;
     const pugi::xml_node root = document.child(acutWcharToUtf8(m_rootElementName).c_str());
     if (!root) return 0;
     m_exploded = root.attribute("exploded").as_int() == 1 ? 1 : 0;
     for (const pugi::xml_node& element : root.children("repositoryItem")) {
         auto item = std::make_unique<CRepositoryItem>();
-        item->SetId(Text(element, "id"));
-        item->SetName(Text(element, "name"));
+        item->SetId(CXmlText::GetAttribute(element, "id"));
+        item->SetName(CXmlText::GetAttribute(element, "name"));
         item->SetEntType(element.attribute("entType").as_int());
         item->SetTopologyType(element.attribute("topologyType").as_int());
         item->SetTopologyFunction(element.attribute("topologyFunction").as_int());
@@ -50,7 +44,8 @@ int CDefinitionRepository::OnSystemDelete(System::CGisSystem* /*system*/) { retu
 
 bool CDefinitionRepository::AddRepositoryItem(CRepositoryItem* item, int fromStorage) {
     if (!item) return false;
-    const bool held = std::any_of(m_items.begin(), m_items.end(), [item](const auto& own) { return own.get() == item; });
+    const bool held =
+        std::any_of(m_items.begin(), m_items.end(), [item](const auto& own) { return own.get() == item; });
     if (held) return false;
     if (!fromStorage && item->GetId().empty()) item->SetId(Utility::CUtility::CreateGUID());
     m_items.emplace_back(item);
@@ -58,7 +53,8 @@ bool CDefinitionRepository::AddRepositoryItem(CRepositoryItem* item, int fromSto
 }
 
 bool CDefinitionRepository::RemoveRepositoryItem(CRepositoryItem* item) {
-    const auto found = std::find_if(m_items.begin(), m_items.end(), [item](const auto& own) { return own.get() == item; });
+    const auto found =
+        std::find_if(m_items.begin(), m_items.end(), [item](const auto& own) { return own.get() == item; });
     if (found == m_items.end()) return false;
     m_items.erase(found);
     return true;
@@ -68,7 +64,8 @@ void CDefinitionRepository::ClearRepository() { m_items.clear(); }
 
 CRepositoryItem* CDefinitionRepository::GetRepositoryItemById(const wchar_t* id) const {
     if (!id) return nullptr;
-    const auto found = std::find_if(m_items.begin(), m_items.end(), [id](const auto& item) { return item->GetId() == id; });
+    const auto found =
+        std::find_if(m_items.begin(), m_items.end(), [id](const auto& item) { return item->GetId() == id; });
     return found == m_items.end() ? nullptr : found->get();
 }
 
@@ -129,12 +126,9 @@ bool CDefinitionRepository::Load(std::wstring& error) {
     std::wstring readError;
     if (!m_system->GetSubXMLByReferenceId(m_key.c_str(), xml, readError)) return Fail(readError, error);
     pugi::xml_document document;
-    const pugi::xml_parse_result parsed = document.load_string(acutWcharToUtf8(xml).c_str());
-    if (!parsed) {
-        return Fail(L"Repository file \"" + path + L"\" is not well-formed XML: " + acutUtf8ToWchar(parsed.description()) +
-                        L" at offset " + std::to_wstring(parsed.offset),
-                    error);
-    }
+    std::wstring parseError;
+    if (!CXmlText::Load(xml.c_str(), document, &parseError))
+        return Fail(L"Repository file \"" + path + L"\": " + parseError, error);
     const std::wstring rootName = acutUtf8ToWchar(document.document_element().name());
     if (rootName != m_rootElementName) {
         return Fail(L"Repository file \"" + path + L"\" has the root element \"" + rootName + L"\" instead of \"" +

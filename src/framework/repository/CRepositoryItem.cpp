@@ -1,39 +1,31 @@
 #include "framework/repository/CRepositoryItem.h"
 
+#include "framework/data/CXmlText.h"
+
+#include <pugixml.hpp>
+
 #include <sstream>
 
 namespace XimoGis {
 
 void CRepositoryItem::GetXML(std::wostream& out) const {
-    out << L"<repositoryItem id=\"" << EncodeAttribute(m_id) << L"\" name=\"" << EncodeAttribute(m_name)
-        << L"\" entType=\"" << m_entType << L"\" topologyType=\"" << m_topologyType << L"\" topologyFunction=\""
-        << m_topologyFunction << L"\" readOnly=\"" << m_readOnly << L"\" hidden=\"" << m_hidden << L"\"/>";
+    using Data::CXmlText;
+    pugi::xml_document document;
+    pugi::xml_node element = document.append_child("repositoryItem");
+    CXmlText::SetAttribute(element, "id", m_id);
+    CXmlText::SetAttribute(element, "name", m_name);
+    CXmlText::SetAttribute(element, "entType", long{m_entType});
+    CXmlText::SetAttribute(element, "topologyType", long{m_topologyType});
+    CXmlText::SetAttribute(element, "topologyFunction", long{m_topologyFunction});
+    CXmlText::SetAttribute(element, "readOnly", long{m_readOnly});
+    CXmlText::SetAttribute(element, "hidden", long{m_hidden});
+    out << CXmlText::ToText(element);
 }
 
 std::wstring CRepositoryItem::GetXML() const {
     std::wostringstream out;
     GetXML(out);
     return out.str();
-}
-
-std::wstring CRepositoryItem::EncodeAttribute(const std::wstring& text) {
-    std::wstring encoded;
-    encoded.reserve(text.size());
-    for (wchar_t c : text) {
-        switch (c) {
-            case L'<': encoded += L"&lt;"; break;
-            case L'&': encoded += L"&amp;"; break;
-            case L'>': encoded += L"&gt;"; break;
-            case L'\'': encoded += L"&apos;"; break;
-            case L'"': encoded += L"&quot;"; break;
-            // Line breaks and tabs would come back as blanks from a parser if written as they are.
-            case L'\n': encoded += L"&#10;"; break;
-            case L'\r': encoded += L"&#13;"; break;
-            case L'\t': encoded += L"&#9;"; break;
-            default: encoded += c;
-        }
-    }
-    return encoded;
 }
 
 }  // namespace XimoGis

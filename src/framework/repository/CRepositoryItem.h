@@ -40,9 +40,6 @@ public:
     int GetHidden() const { return m_hidden; }
     void SetHidden(int hidden) { m_hidden = hidden; }
 
-    // The characters < & > ' " and line breaks and tabs replaced by references, for attribute values.
-    static std::wstring EncodeAttribute(const std::wstring& text);
-
 private:
     std::wstring m_id;
     std::wstring m_name;

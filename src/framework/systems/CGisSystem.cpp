@@ -1,8 +1,11 @@
 #include "framework/systems/CGisSystem.h"
 
+#include "framework/notification/CNotificationFramework.h"
 #include "framework/utility/CAtomicFile.h"
 #include "framework/utility/CFilePath.h"
 #include "host/base/AcString.h"
+#include "host/database/AcDbDatabase.h"
+#include "host/database/acdbOpenObject.h"
 
 #include <algorithm>
 #include <cwctype>
@@ -42,9 +45,31 @@ CGisSystem::CGisSystem(int systemId, std::wstring name, int topologyType, std::v
 
 const CGisSystemLayer* CGisSystem::GetLayerByReference(const wchar_t* reference) const {
     if (!reference) return nullptr;
-    const auto found = std::find_if(m_layers.begin(), m_layers.end(),
-                                    [reference](const CGisSystemLayer& layer) { return layer.GetReference() == reference; });
+    const auto found = std::find_if(m_layers.begin(), m_layers.end(), [reference](const CGisSystemLayer& layer) {
+        return layer.GetReference() == reference;
+    });
     return found == m_layers.end() ? nullptr : &*found;
+}
+
+bool CGisSystem::RecreateSystemlayers(AcDbDatabase* database) {
+    if (!database) database = acdbHostApplicationServices()->workingDatabase();
+    if (!database) return false;
+    for (const CGisSystemLayer& layer : m_layers) {
+        const auto color = static_cast<Adesk::UInt16>(layer.GetColorIndex());
+        AcDbObjectId layerId;
+        if (database->addLayer(layerId, layer.GetLayerName(), color, layer.GetLinetypeName()) != Acad::eOk)
+            return false;
+        database->loadLineTypeFile(layer.GetLinetypeName().c_str());
+        AcDbObjectId linetypeId = database->linetypeId(layer.GetLinetypeName());
+        if (linetypeId.isNull()) linetypeId = database->continuousLinetype();
+        AcDbObjectPointer<AcDbLayerTableRecord> record(layerId, AcDb::kForWrite);
+        if (!record) return false;
+        record->setColorIndex(color);
+        record->setLinetypeObjectId(linetypeId);
+    }
+    CNotificationFramework::Instance()->NotifyResponders(
+        [this](IFrameworkEventResponder& r) { return r.OnAfterSystemLayersRecreated(this); });
+    return true;
 }
 
 std::wstring CGisSystem::GetSubXMLFolder() const {
@@ -53,7 +78,8 @@ std::wstring CGisSystem::GetSubXMLFolder() const {
 
 std::wstring CGisSystem::GetSubXMLPath(const wchar_t* referenceId) const {
     if (!IsValidReferenceId(referenceId)) return {};
-    return CFilePath::ToText(CFilePath::ToPath(GetSubXMLFolder()) / CFilePath::ToPath(std::wstring(referenceId) + L".xml"));
+    return CFilePath::ToText(CFilePath::ToPath(GetSubXMLFolder()) /
+                             CFilePath::ToPath(std::wstring(referenceId) + L".xml"));
 }
 
 bool CGisSystem::GetSubXMLByReferenceId(const wchar_t* referenceId, std::wstring& xml, std::wstring& error) const {

@@ -11,6 +11,8 @@
 #include <string>
 #include <vector>
 
+class AcDbDatabase;
+
 namespace XimoGis::System {
 
 class CGisSystem {
@@ -30,6 +32,12 @@ public:
     const std::vector<CGisSystemLayer>& GetLayers() const { return m_layers; }
     // Exact, case-sensitive look-up; null when the system has no such layer.
     const CGisSystemLayer* GetLayerByReference(const wchar_t* reference) const;
+
+    // Makes every layer of the system exist in the drawing with the system's colour and linetype,
+    // resetting both on layers that are there already; a linetype the host does not know becomes
+    // "Continuous". Null takes the host's working database. False when there is no database or a
+    // layer cannot be made; raises OnAfterSystemLayersRecreated on success.
+    bool RecreateSystemlayers(AcDbDatabase* database = nullptr);
 
     // The system's folder of sub-documents, and the file of one (empty for a bad reference id).
     std::wstring GetSubXMLFolder() const;

@@ -39,6 +39,11 @@ bool CheckNewSystem(int systemId, const std::wstring& name, const std::vector<CG
                 error = L"System " + std::to_wstring(systemId) + L": every layer needs a reference and a name";
                 return false;
             }
+            if (layer.GetColorIndex() < 1 || layer.GetColorIndex() > 255) {
+                error = L"System " + std::to_wstring(systemId) + L": layer \"" + layer.GetLayerName() +
+                        L"\" has colour index " + std::to_wstring(layer.GetColorIndex()) + L", not 1 to 255";
+                return false;
+            }
             if (!references.insert(layer.GetReference()).second) {
                 error = L"System " + std::to_wstring(systemId) + L": layer reference \"" + layer.GetReference() +
                         L"\" is given twice";
@@ -48,6 +53,16 @@ bool CheckNewSystem(int systemId, const std::wstring& name, const std::vector<CG
         return true;
     }
     return false;
+}
+
+bool AskBeforeEntitiesDeleted(CGisSystem* system) {
+    return CNotificationFramework::Instance()->AskResponders(
+        [system](IFrameworkEventResponder& r) { return r.OnBeforeSystemEntitiesDeleted(system); });
+}
+
+void TellEntitiesDeleted(CGisSystem* system) {
+    CNotificationFramework::Instance()->NotifyResponders(
+        [system](IFrameworkEventResponder& r) { return r.OnAfterSystemEntitiesDeleted(system); });
 }
 
 }  // namespace
@@ -127,10 +142,10 @@ bool CSystemManager::CheckOwnSystem(const CGisSystem* system, std::wstring& erro
 bool CSystemManager::SetActiveSystem(CGisSystem* system, std::wstring& error) {
     if (system && !CheckOwnSystem(system, error)) return false;
     const int systemId = system ? system->GetSystemId() : 0;
-    const bool written = WriteStore(
-        [systemId](CWorkspaceStore& store, std::wstring& e) { return CSystemTables::SetActive(store, systemId, e); },
-        error);
-    if (!written) return false;
+    const auto mark = [systemId](CWorkspaceStore& store, std::wstring& e) {
+        return CSystemTables::SetActive(store, systemId, e);
+    };
+    if (!WriteStore(mark, error)) return false;
     if (systemId != m_activeSystemId) {
         m_activeSystemId = systemId;
         CNotificationFramework::Instance()->NotifyResponders(
@@ -147,9 +162,10 @@ CGisSystem* CSystemManager::CreateSystem(int systemId, const std::wstring& name,
         return nullptr;
     }
     const auto system = boost::make_shared<CGisSystem>(systemId, name, topologyType, layers, m_workspace);
-    const bool written = WriteStore(
-        [&system](CWorkspaceStore& store, std::wstring& e) { return CSystemTables::Insert(store, *system, e); }, error);
-    if (!written) return nullptr;
+    const auto insert = [&system](CWorkspaceStore& store, std::wstring& e) {
+        return CSystemTables::Insert(store, *system, e);
+    };
+    if (!WriteStore(insert, error)) return nullptr;
     m_systems.Add(system);
     CNotificationFramework::Instance()->NotifyResponders(
         [&system](IFrameworkEventResponder& r) { return r.OnAfterCreateSystem(system.get()); });
@@ -161,7 +177,7 @@ bool CSystemManager::DeleteSystem(CGisSystem* system, std::wstring& error) {
     if (!CheckOwnSystem(system, error)) return false;
     auto* hub = CNotificationFramework::Instance();
     if (!hub->AskResponders([system](IFrameworkEventResponder& r) { return r.OnBeforeDeleteSystem(system); }) ||
-        !hub->AskResponders([system](IFrameworkEventResponder& r) { return r.OnBeforeSystemEntitiesDeleted(system); })) {
+        !AskBeforeEntitiesDeleted(system)) {
         error = L"Deleting the " + Describe(*system) + L" was cancelled";
         return false;
     }
@@ -169,25 +185,21 @@ bool CSystemManager::DeleteSystem(CGisSystem* system, std::wstring& error) {
     // The sub-documents are moved aside inside the transaction, so that a failed commit can put
     // them back, and removed for good only after it.
     const fs::path folder = CFilePath::ToPath(system->GetSubXMLFolder());
-    fs::path aside = folder;
-    aside += ".deleted" + acutWcharToUtf8(Utility::CUtility::CreateGUID());
+    const fs::path aside = fs::path(folder).concat(".deleted" + acutWcharToUtf8(Utility::CUtility::CreateGUID()));
     bool movedAside = false;
-    const bool written = WriteStore(
-        [&](CWorkspaceStore& store, std::wstring& e) {
-            if (!CSystemTables::DeleteEntities(store, systemId, e) || !CSystemTables::Delete(store, systemId, e))
-                return false;
-            std::error_code ec;
-            if (!fs::exists(folder, ec)) return true;
-            fs::rename(folder, aside, ec);
-            if (ec) {
-                e = L"Cannot remove the sub-documents of the " + Describe(*system) + L" in \"" +
-                    CFilePath::ToText(folder) + L"\": " + acutUtf8ToWchar(ec.message());
-                return false;
-            }
-            movedAside = true;
-            return true;
-        },
-        error);
+    const auto erase = [&](CWorkspaceStore& store, std::wstring& e) {
+        if (!CSystemTables::DeleteEntities(store, systemId, e) || !CSystemTables::Delete(store, systemId, e))
+            return false;
+        std::error_code ec;
+        if (!fs::exists(folder, ec)) return true;
+        fs::rename(folder, aside, ec);
+        movedAside = !ec;
+        if (ec)
+            e = L"Cannot remove the sub-documents of the " + Describe(*system) + L" in \"" + CFilePath::ToText(folder) +
+                L"\": " + acutUtf8ToWchar(ec.message());
+        return movedAside;
+    };
+    const bool written = WriteStore(erase, error);
     std::error_code ec;
     if (!written) {
         if (movedAside) fs::rename(aside, folder, ec);
@@ -195,7 +207,7 @@ bool CSystemManager::DeleteSystem(CGisSystem* system, std::wstring& error) {
     }
     if (movedAside) fs::remove_all(aside, ec);
 
-    hub->NotifyResponders([system](IFrameworkEventResponder& r) { return r.OnAfterSystemEntitiesDeleted(system); });
+    TellEntitiesDeleted(system);
     const bool wasActive = systemId == m_activeSystemId;
     if (wasActive) m_activeSystemId = 0;
     // Kept alive until the responders have heard of the deletion.
@@ -207,17 +219,16 @@ bool CSystemManager::DeleteSystem(CGisSystem* system, std::wstring& error) {
 
 bool CSystemManager::DeleteSystemEntities(CGisSystem* system, std::wstring& error) {
     if (!CheckOwnSystem(system, error)) return false;
-    auto* hub = CNotificationFramework::Instance();
-    if (!hub->AskResponders([system](IFrameworkEventResponder& r) { return r.OnBeforeSystemEntitiesDeleted(system); })) {
+    if (!AskBeforeEntitiesDeleted(system)) {
         error = L"Deleting the entities of the " + Describe(*system) + L" was cancelled";
         return false;
     }
     const int systemId = system->GetSystemId();
-    const bool written = WriteStore(
-        [systemId](CWorkspaceStore& store, std::wstring& e) { return CSystemTables::DeleteEntities(store, systemId, e); },
-        error);
-    if (!written) return false;
-    hub->NotifyResponders([system](IFrameworkEventResponder& r) { return r.OnAfterSystemEntitiesDeleted(system); });
+    const auto erase = [systemId](CWorkspaceStore& store, std::wstring& e) {
+        return CSystemTables::DeleteEntities(store, systemId, e);
+    };
+    if (!WriteStore(erase, error)) return false;
+    TellEntitiesDeleted(system);
     return true;
 }
 

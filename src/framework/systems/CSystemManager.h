@@ -40,7 +40,8 @@ public:
     bool SetActiveSystem(CGisSystem* system, std::wstring& error);
 
     // Creates a system with its layers in the store. The id must be positive and not taken, the
-    // name not empty, layer references and names not empty and references unique.
+    // name not empty, layer references and names not empty, references unique and colour
+    // indexes 1 to 255.
     CGisSystem* CreateSystem(int systemId, const std::wstring& name, int topologyType,
                              const std::vector<CGisSystemLayer>& layers, std::wstring& error);
     // Deletes the system's entities, layers, row and sub-documents. A responder that answers 0

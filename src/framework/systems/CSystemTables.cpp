@@ -24,7 +24,7 @@ CREATE TABLE ximo_systems (
   system_id INTEGER NOT NULL UNIQUE,
   name TEXT NOT NULL,
   topology_type INTEGER NOT NULL,
-  active INTEGER NOT NULL DEFAULT 0 CHECK (active IN (0, 1))
+  active BOOLEAN NOT NULL DEFAULT 0 CHECK (active IN (0, 1))
 ))SQL";
 
 const char* const kCreateLayers = R"SQL(
@@ -116,7 +116,8 @@ bool CSystemTables::Delete(CWorkspaceStore& store, int systemId, std::wstring& e
 bool CSystemTables::DeleteEntities(CWorkspaceStore& store, int systemId, std::wstring& error) {
     std::vector<std::string> tables;
     {
-        CStatement query(store, "SELECT table_name FROM gpkg_contents WHERE table_name NOT IN (?, ?) ORDER BY table_name");
+        CStatement query(store,
+                         "SELECT table_name FROM gpkg_contents WHERE table_name NOT IN (?, ?) ORDER BY table_name");
         query.Bind(1, std::string(kSystemsTable)).Bind(2, std::string(kLayersTable));
         while (query.Next()) {
             std::string table = query.GetUtf8(0);

@@ -7,7 +7,7 @@
 
 namespace XimoGis::Workspace {
 
-CStatement::CStatement(CWorkspaceStore& store, const char* sql) : m_store(store) {
+CStatement::CStatement(const CWorkspaceStore& store, const char* sql) : m_store(store) {
     if (!store.GetHandle()) {
         m_error = store.FormatError(L"the store is not open", false);
         return;

@@ -13,7 +13,7 @@ class CWorkspaceStore;
 
 class CStatement {
 public:
-    CStatement(CWorkspaceStore& store, const char* sql);
+    CStatement(const CWorkspaceStore& store, const char* sql);
     ~CStatement();
     CStatement(const CStatement&) = delete;
     CStatement& operator=(const CStatement&) = delete;
@@ -48,7 +48,7 @@ public:
 private:
     void CheckBind(int rc, int index);
 
-    CWorkspaceStore& m_store;
+    const CWorkspaceStore& m_store;
     sqlite3_stmt* m_stmt = nullptr;
     std::wstring m_error;
     bool m_failed = false;

@@ -64,14 +64,21 @@ INSERT INTO gpkg_spatial_ref_sys VALUES
 const wchar_t* HintFor(int primaryCode) {
     switch (primaryCode) {
         case SQLITE_BUSY:
-        case SQLITE_LOCKED: return L"the file is locked by another program";
+        case SQLITE_LOCKED:
+            return L"the file is locked by another program";
         case SQLITE_CORRUPT:
-        case SQLITE_NOTADB: return L"the file is damaged or not a database";
-        case SQLITE_READONLY: return L"the file or its folder is read-only";
-        case SQLITE_CANTOPEN: return L"the file cannot be opened";
-        case SQLITE_FULL: return L"the disk is full";
-        case SQLITE_IOERR: return L"the file cannot be read or written";
-        default: return nullptr;
+        case SQLITE_NOTADB:
+            return L"the file is damaged or not a database";
+        case SQLITE_READONLY:
+            return L"the file or its folder is read-only";
+        case SQLITE_CANTOPEN:
+            return L"the file cannot be opened";
+        case SQLITE_FULL:
+            return L"the disk is full";
+        case SQLITE_IOERR:
+            return L"the file cannot be read or written";
+        default:
+            return nullptr;
     }
 }
 
@@ -197,15 +204,14 @@ bool CWorkspaceStore::Execute(const char* sql, std::wstring& error) {
 
 bool CWorkspaceStore::HasTable(const std::string& table) const {
     if (!m_db) return false;
-    CStatement query(const_cast<CWorkspaceStore&>(*this),
-                     "SELECT 1 FROM sqlite_master WHERE type IN ('table', 'view') AND name = ?");
+    CStatement query(*this, "SELECT 1 FROM sqlite_master WHERE type IN ('table', 'view') AND name = ?");
     query.Bind(1, table);
     return query.Next();
 }
 
 bool CWorkspaceStore::HasColumn(const std::string& table, const std::string& column) const {
     if (!m_db) return false;
-    CStatement query(const_cast<CWorkspaceStore&>(*this), "SELECT 1 FROM pragma_table_info(?) WHERE name = ?");
+    CStatement query(*this, "SELECT 1 FROM pragma_table_info(?) WHERE name = ?");
     query.Bind(1, table).Bind(2, column);
     return query.Next();
 }

@@ -1,12 +1,10 @@
 #pragma once
 // A repository of its own kind for the tests, built the way modules build theirs: items with a
-// field of their own and a reader for their own element.
+// field of their own, written and read as their own element.
 
+#include "framework/data/CXmlText.h"
 #include "framework/repository/CDefinitionRepository.h"
 #include "framework/repository/CRepositoryFactory.h"
-#include "host/base/AcString.h"
-
-#include <pugixml.hpp>
 
 #include <memory>
 #include <ostream>
@@ -15,13 +13,16 @@ namespace XimoGis::Testing {
 
 class PipeItem : public CRepositoryItem {
 public:
-    double diameter = 0.0;
+    int diameter = 0;
 
     using CRepositoryItem::GetXML;
     void GetXML(std::wostream& out) const override {
-        out << L"<pipe id=\"" << EncodeAttribute(GetId()) << L"\" name=\"" << EncodeAttribute(GetName())
-            << L"\" topologyType=\"" << GetTopologyType() << L"\" readOnly=\"" << GetReadOnly() << L"\" diameter=\""
-            << diameter << L"\"/>";
+        pugi::xml_document document;
+        pugi::xml_node pipe = document.append_child("pipe");
+        Data::CXmlText::SetAttribute(pipe, "id", GetId());
+        Data::CXmlText::SetAttribute(pipe, "name", GetName());
+        Data::CXmlText::SetAttribute(pipe, "diameter", long{diameter});
+        out << Data::CXmlText::ToText(pipe);
     }
 };
 
@@ -33,22 +34,17 @@ public:
     PipeRepository() {
         SetRepositoryKey(L"PIPES");
         SetRootElementName(L"pipes");
-        SetBaseFlag(1);
     }
     int ReadXML(const wchar_t* xml) override {
         ClearRepository();
         pugi::xml_document document;
-        if (!xml || !document.load_string(acutWcharToUtf8(xml).c_str())) return 0;
-        const pugi::xml_node root = document.child("pipes");
-        if (!root) return 0;
-        SetExploded(root.attribute("exploded").as_int() == 1);
-        for (const pugi::xml_node& element : root.children("pipe")) {
+        if (!Data::CXmlText::Load(xml, document, nullptr) || !document.child("pipes")) return 0;
+        SetExploded(document.child("pipes").attribute("exploded").as_int() == 1);
+        for (const pugi::xml_node& element : document.child("pipes").children("pipe")) {
             auto item = std::make_unique<PipeItem>();
-            item->SetId(acutUtf8ToWchar(element.attribute("id").as_string()));
-            item->SetName(acutUtf8ToWchar(element.attribute("name").as_string()));
-            item->SetTopologyType(element.attribute("topologyType").as_int());
-            item->SetReadOnly(element.attribute("readOnly").as_int());
-            item->diameter = element.attribute("diameter").as_double();
+            item->SetId(Data::CXmlText::GetAttribute(element, "id"));
+            item->SetName(Data::CXmlText::GetAttribute(element, "name"));
+            item->diameter = element.attribute("diameter").as_int();
             AddRepositoryItem(item.release(), 1);
         }
         return 1;
