@@ -28,6 +28,25 @@ bool CASXmlEscape::StartsEntityReference(const std::wstring& text, std::size_t p
     return i < text.size() && i > first;
 }
 
+std::wstring CASXmlEscape::EncodeAttribute(const std::wstring& text) {
+    std::wstring encoded;
+    encoded.reserve(text.size());
+    for (const wchar_t c : text) {
+        switch (c) {
+            case L'<': encoded += L"&lt;"; break;
+            case L'&': encoded += L"&amp;"; break;
+            case L'>': encoded += L"&gt;"; break;
+            case L'\'': encoded += L"&apos;"; break;
+            case L'"': encoded += L"&quot;"; break;
+            case L'\n': encoded += L"&#10;"; break;
+            case L'\r': encoded += L"&#13;"; break;
+            case L'\t': encoded += L"&#9;"; break;
+            default: encoded += c;
+        }
+    }
+    return encoded;
+}
+
 std::wstring CASXmlEscape::Escape(const std::wstring& text) {
     std::wstring escaped;
     escaped.reserve(text.size());

@@ -4,6 +4,12 @@
 
 using XimoGis::AssemblySchemes::CASXmlEscape;
 
+TEST(CASXmlEscape, AttributesEncodeEveryMarkupCharacter) {
+    EXPECT_EQ(CASXmlEscape::EncodeAttribute(L"<&>'\" &amp;"), L"&lt;&amp;&gt;&apos;&quot; &amp;amp;");
+    EXPECT_EQ(CASXmlEscape::EncodeAttribute(L"a\nb\tc\r"), L"a&#10;b&#9;c&#13;");
+    EXPECT_EQ(CASXmlEscape::EncodeAttribute(L"\u0160ibenik 0.1;0.1;0"), L"\u0160ibenik 0.1;0.1;0");
+}
+
 TEST(CASXmlEscape, EscapesMarkupButLeavesEntityReferences) {
     EXPECT_EQ(CASXmlEscape::Escape(L"a<b>c'd\"e"), L"a&lt;b&gt;c&apos;d\"e");
     EXPECT_EQ(CASXmlEscape::Escape(L"R&D & co"), L"R&amp;D &amp; co");
