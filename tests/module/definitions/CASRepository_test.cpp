@@ -7,10 +7,14 @@
 
 #include "framework/repository/CRepositoryManager.h"
 #include "framework/systems/CSystemManager.h"
+#include "host/base/AcString.h"
 
 #include <gtest/gtest.h>
 
+#include <filesystem>
+#include <fstream>
 #include <memory>
+#include <sstream>
 
 using namespace XimoGis::AssemblySchemes;
 using XimoGis::CDefinitionRepository;
@@ -124,4 +128,33 @@ TEST(CASRepository, SavesAndLoadsThroughTheSystemsFile) {
     EXPECT_EQ(repository->GetRepositoryItemById(id.c_str())->GetName(), L"A3 & more");
     EXPECT_EQ(repository->GetXML(), std::wstring(saved.begin(), saved.end()));
     systems->CloseWorkspace();
+}
+
+TEST(CASRepository, TheDemoRepositoryHoldsAnA4AndAnA3Sheet) {
+    std::ifstream file(std::filesystem::path(XIMO_SOURCE_DIR) / "data/demo/systems/1/AS.xml", std::ios::binary);
+    std::ostringstream text;
+    text << file.rdbuf();
+    const std::wstring xml = acutUtf8ToWchar(text.str());
+    CASRepository repository;
+    ASSERT_EQ(repository.ReadXML(xml.c_str()), 1);
+    ASSERT_EQ(repository.GetItemCount(), 2u);
+    const auto items = repository.GetRepositoryItems();
+    const struct {
+        const wchar_t* name;
+        double width, height;
+    } sheets[] = {{L"A4 portrait", 210.0, 297.0}, {L"A3 landscape", 420.0, 297.0}};
+    for (std::size_t i = 0; i < 2; ++i) {
+        const auto* definition = dynamic_cast<const CASDefinition*>(items[i]);
+        ASSERT_NE(definition, nullptr);
+        EXPECT_EQ(definition->GetName(), sheets[i].name);
+        EXPECT_DOUBLE_EQ(definition->GetPaperWidth(), sheets[i].width);
+        EXPECT_DOUBLE_EQ(definition->GetPaperHeight(), sheets[i].height);
+        EXPECT_EQ(definition->GetTopologyType(), 8);
+        EXPECT_EQ(definition->GetTopologyFunction(), 50001);
+        EXPECT_EQ(definition->GetId().size(), 38u);
+        EXPECT_EQ(definition->GetProperties()->GetPropertyCount(), 6u);
+    }
+    EXPECT_NE(items[0]->GetId(), items[1]->GetId());
+    // The file is as the repository writes it, so saving it changes nothing.
+    EXPECT_EQ(repository.GetXML(), xml);
 }
