@@ -13,7 +13,6 @@
 
 #include <filesystem>
 #include <fstream>
-#include <memory>
 #include <sstream>
 
 using namespace XimoGis::AssemblySchemes;
@@ -34,29 +33,20 @@ const wchar_t* kTwoWithOneId =
 
 }  // namespace
 
-TEST(CASRepository, IsTheBaseRepositoryAS) {
-    const CASRepository repository;
+TEST(CASRepository, KeepsBothDefinitionsOfOneId) {
+    CASRepository repository;
     EXPECT_EQ(repository.GetRepositoryKey(), L"AS");
     EXPECT_EQ(repository.GetRootElementName(), L"schemes");
     EXPECT_EQ(repository.GetBaseFlag(), 1);
-    EXPECT_EQ(repository.IsExploded(), 0);
-    EXPECT_EQ(repository.GetItemCount(), 0u);
-}
-
-TEST(CASRepository, KeepsBothDefinitionsOfOneId) {
-    CASRepository repository;
+    EXPECT_EQ(repository.OnSystemDelete(nullptr), 1);
     ASSERT_EQ(repository.ReadXML(kTwoWithOneId), 1);
     ASSERT_EQ(repository.GetItemCount(), 3u);
-    EXPECT_EQ(repository.IsExploded(), 1);
     const auto items = repository.GetRepositoryItems();
-    EXPECT_EQ(items[0]->GetName(), L"A4 portrait");
     EXPECT_EQ(items[1]->GetName(), L"A4 again");
     EXPECT_EQ(items[1]->GetId(), L"{A4}");
-    // Look-ups find the first.
-    EXPECT_EQ(repository.GetRepositoryItemById(L"{A4}"), items[0]);
-    auto* definition = dynamic_cast<CASDefinition*>(items[0]);
-    ASSERT_NE(definition, nullptr);
-    EXPECT_EQ(definition->GetTopologyType(), 8);
+    EXPECT_EQ(repository.GetRepositoryItemById(L"{A4}"), items[0]);  // look-ups find the first
+    ASSERT_TRUE(dynamic_cast<CASDefinition*>(items[0]));
+    EXPECT_EQ(items[0]->GetTopologyType(), 8);
 }
 
 TEST(CASRepository, AWrongRootLoadsNothingAndDropsWhatWasLoaded) {
@@ -67,33 +57,22 @@ TEST(CASRepository, AWrongRootLoadsNothingAndDropsWhatWasLoaded) {
     ASSERT_EQ(repository.ReadXML(kTwoWithOneId), 1);
     EXPECT_EQ(repository.ReadXML(L"<schemes"), 0);
     EXPECT_EQ(repository.GetItemCount(), 0u);
-    EXPECT_EQ(repository.ReadXML(nullptr), 0);
-    // A definition nested deeper than the root's children is not one of the repository's.
-    ASSERT_EQ(repository.ReadXML(L"<schemes><group><asDefinition id=\"{X}\"/></group></schemes>"), 1);
-    EXPECT_EQ(repository.GetItemCount(), 0u);
 }
 
 TEST(CASRepository, OnlyExplodedOneSetsTheFlag) {
     CASRepository repository;
     for (const auto& [text, flag] : {std::pair{L"<schemes exploded=\"1\"/>", 1}, std::pair{L"<schemes exploded=\"2\"/>", 0},
-                                     std::pair{L"<schemes exploded=\"1\"/>", 1}, std::pair{L"<schemes/>", 0},
-                                     std::pair{L"<schemes exploded=\"yes\"/>", 0}}) {
+                                     std::pair{L"<schemes exploded=\"1\"/>", 1}, std::pair{L"<schemes/>", 0}}) {
         ASSERT_EQ(repository.ReadXML(text), 1) << text;
         EXPECT_EQ(repository.IsExploded(), flag) << text;
     }
 }
 
-TEST(CASRepository, NeverHoldsASystemBack) {
-    CASRepository repository;
-    EXPECT_EQ(repository.OnSystemDelete(nullptr), 1);
-}
-
 TEST(CASRepositoryFactory, MakesAndFreesEmptySchemeRepositories) {
     CASRepositoryFactory factory;
-    std::unique_ptr<CDefinitionRepository> made(factory.GetRepository(L"whatever"));
-    ASSERT_TRUE(dynamic_cast<CASRepository*>(made.get()));
-    EXPECT_EQ(made->GetItemCount(), 0u);
-    factory.FreeRepositoryMemory(made.release());
+    CDefinitionRepository* made = factory.GetRepository(L"whatever");
+    ASSERT_TRUE(dynamic_cast<CASRepository*>(made));
+    factory.FreeRepositoryMemory(made);
     factory.FreeRepositoryMemory(nullptr);
     EXPECT_EQ(factory.GetRepositoryName(), L"Assembly schemes");
 }
@@ -114,7 +93,6 @@ TEST(CASRepository, SavesAndLoadsThroughTheSystemsFile) {
     auto* added = new CASDefinition();
     added->SetName(L"A3 & more");
     ASSERT_TRUE(repository->AddRepositoryItem(added, 0));
-    const std::wstring id = added->GetId();
     ASSERT_TRUE(repository->Save(error)) << error;
     const std::string saved = folder.Read("systems/1/AS.xml");
     EXPECT_EQ(saved.rfind("<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<schemes version=\"1\" exploded=\"1\">\n"
@@ -125,7 +103,6 @@ TEST(CASRepository, SavesAndLoadsThroughTheSystemsFile) {
 
     repository = CRepositoryManager::GetSystemRepository(water, L"AS", CRepositoryManager::kReload);
     ASSERT_EQ(repository->GetItemCount(), 2u);
-    EXPECT_EQ(repository->GetRepositoryItemById(id.c_str())->GetName(), L"A3 & more");
     EXPECT_EQ(repository->GetXML(), std::wstring(saved.begin(), saved.end()));
     systems->CloseWorkspace();
 }

@@ -98,7 +98,6 @@ TEST_F(ManagerTest, TheSingleManagerRegistersElevenComponentTypesInIdOrder) {
     }
     EXPECT_FALSE(manager->GetASComponentById(L"00DIM"));
     EXPECT_FALSE(manager->GetASComponentById(L"00frame"));
-    EXPECT_FALSE(manager->GetASComponentById(nullptr));
 
     auto* dialogs = XimoGis::Data::CCustomDialogRegistry::Instance();
     for (const wchar_t* id : {L"IT_BOM_DATAPICKER", L"IT_BLOCK_DLG", L"CD_ASDATAPICKER_NODE"})
@@ -108,13 +107,9 @@ TEST_F(ManagerTest, TheSingleManagerRegistersElevenComponentTypesInIdOrder) {
 TEST_F(ManagerTest, ElementTypeProvidersAreFoundByTheirExactId) {
     auto pipe = boost::make_shared<Provider>(L"PIPE");
     manager->RegisterAssemblyElement(pipe);
-    manager->RegisterAssemblyElement(nullptr);
     EXPECT_EQ(manager->GetAETypeProvider(L"PIPE"), pipe);
     EXPECT_FALSE(manager->GetAETypeProvider(L"pipe"));
-    EXPECT_FALSE(manager->GetAETypeProvider(nullptr));
-    EXPECT_EQ(manager->GetAssemblyElementTypeRegistry()->count(L"PIPE"), 1u);
-    manager->GetAssemblyElementTypeRegistry()->erase(L"PIPE");
-    EXPECT_FALSE(manager->GetAETypeProvider(L"PIPE"));
+    EXPECT_EQ(manager->GetAssemblyElementTypeRegistry()->erase(L"PIPE"), 1u);
 }
 
 TEST_F(ManagerTest, DefinitionsAreFoundInTheActiveSchemeSystemOnly) {
@@ -126,8 +121,6 @@ TEST_F(ManagerTest, DefinitionsAreFoundInTheActiveSchemeSystemOnly) {
     ASSERT_NE(definition, nullptr);
     EXPECT_EQ(definition->GetName(), L"Sheet");
     EXPECT_EQ(manager->GetASDefinitionById(L"{w}"), nullptr);
-    EXPECT_EQ(manager->GetASDefinitionById(L"{O}"), nullptr);
-    EXPECT_EQ(manager->GetASDefinitionById(nullptr), nullptr);
 }
 
 TEST_F(ManagerTest, SystemsAreFoundByDefinitionWithTheirRepositoryReadAgain) {
@@ -142,45 +135,33 @@ TEST_F(ManagerTest, SystemsAreFoundByDefinitionWithTheirRepositoryReadAgain) {
     // A file that does not read is passed over.
     folder.Write("systems/1/AS.xml", "<schemes>");
     EXPECT_EQ(manager->GetSystemByASDefinitionId(L"{W}"), nullptr);
-    EXPECT_EQ(manager->GetSystemByASDefinitionId(nullptr), nullptr);
 }
 
-TEST_F(ManagerTest, EachDocumentHasItsOwnInstanceStorage) {
+TEST_F(ManagerTest, EachDocumentHasItsOwnStorageEmptiedWhenASystemGoes) {
     AcDbDatabase first;
     AcDbDatabase second;
     acdbHostApplicationServices()->setWorkingDatabase(&first);
     const auto storage = manager->GetASIStorage();
-    ASSERT_TRUE(storage);
-    EXPECT_TRUE(storage->GetASRegistry().empty());
-    EXPECT_EQ(manager->GetASIStorage(), storage);
+    ASSERT_TRUE(storage && storage->GetASRegistry().empty());
     storage->AddASInstance(boost::make_shared<CASInstance>());
     manager->SaveInstanceStorage();
     EXPECT_EQ(manager->GetASIStorage()->GetASRegistry().size(), 1u);
-
     acdbHostApplicationServices()->setWorkingDatabase(&second);
-    EXPECT_NE(manager->GetASIStorage(), storage);
     EXPECT_TRUE(manager->GetASIStorage()->GetASRegistry().empty());
-
+    manager->ReleaseASIStorage(&second);
     acdbHostApplicationServices()->setWorkingDatabase(&first);
     EXPECT_EQ(manager->GetASIStorage(), storage);
+
+    // The responder drops the schemes of the current drawing, whichever system goes.
+    std::wstring error;
+    ASSERT_TRUE(systems->DeleteSystemEntities(other, error)) << error;
+    EXPECT_TRUE(storage->GetASRegistry().empty());
+    storage->AddASInstance(boost::make_shared<CASInstance>());
+    ASSERT_TRUE(systems->DeleteSystem(other, error)) << error;
+    EXPECT_TRUE(storage->GetASRegistry().empty());
     manager->ReleaseASIStorage(&first);
     EXPECT_NE(manager->GetASIStorage(), storage);
     manager->ReleaseASIStorage(&first);
-    manager->ReleaseASIStorage(&second);
-    acdbHostApplicationServices()->setWorkingDatabase(nullptr);
-}
-
-TEST_F(ManagerTest, DeletingASystemDropsTheSchemesOfTheDrawing) {
-    AcDbDatabase drawing;
-    acdbHostApplicationServices()->setWorkingDatabase(&drawing);
-    manager->GetASIStorage()->AddASInstance(boost::make_shared<CASInstance>());
-    std::wstring error;
-    ASSERT_TRUE(systems->DeleteSystemEntities(other, error)) << error;
-    EXPECT_TRUE(manager->GetASIStorage()->GetASRegistry().empty());
-    manager->GetASIStorage()->AddASInstance(boost::make_shared<CASInstance>());
-    ASSERT_TRUE(systems->DeleteSystem(other, error)) << error;
-    EXPECT_TRUE(manager->GetASIStorage()->GetASRegistry().empty());
-    manager->ReleaseASIStorage(&drawing);
     acdbHostApplicationServices()->setWorkingDatabase(nullptr);
 }
 
@@ -199,9 +180,7 @@ TEST_F(ManagerTest, EveryEventReachesEveryComponentInIdOrder) {
         expected.insert(expected.end(), lines.begin(), lines.end());
     }
     EXPECT_EQ(recorders.journal, expected);
-
-    // A definition given is passed on as it is.
-    CASDefinition given;
+    CASDefinition given;  // passed on as it is
     given.SetId(L"{GIVEN}");
     recorders.journal.clear();
     manager->Raise_OnRequestUpdateBOM(&instance, &given);
@@ -218,12 +197,6 @@ TEST_F(ManagerTest, WithoutAnActiveSchemeSystemListenersGetNoDefinition) {
     recorders.journal.clear();
     manager->Raise_OnAfterASElementInserted(&instance, nullptr, &element);
     EXPECT_EQ(recorders.journal, Everyone(L"inserted", L"(null)"));
-
-    instance.SetDefinitionId(L"{UNKNOWN}");
-    Activate(water);
-    recorders.journal.clear();
-    manager->Raise_OnRequestUpdateBOM(&instance, nullptr);
-    EXPECT_EQ(recorders.journal, Everyone(L"bom", L"(null)"));
 }
 
 TEST_F(ManagerTest, EventsWithoutTheirInstanceOrElementReachNobody) {
@@ -245,7 +218,6 @@ TEST_F(ManagerTest, EventsWithoutTheirInstanceOrElementReachNobody) {
 TEST_F(ManagerTest, BlockingIsAFlagNotACounter) {
     Testing::ScopedRecorders recorders;
     std::vector<CASElementInstance*> none;
-    EXPECT_EQ(manager->AreASListenersBlocked(), 0);
     manager->SetBlockASListeners(2);
     EXPECT_EQ(manager->AreASListenersBlocked(), 2);
     manager->Raise_OnAfterASElementInserted(&instance, nullptr, &element);
@@ -254,11 +226,8 @@ TEST_F(ManagerTest, BlockingIsAFlagNotACounter) {
     manager->Raise_OnRequestUpdateBOM(&instance, nullptr);
     manager->Raise_OnRequestUpdatePositionLabels(&instance, nullptr);
     EXPECT_TRUE(recorders.journal.empty());
-
-    manager->SetBlockASListeners(1);
     manager->SetBlockASListeners(1);
     manager->SetBlockASListeners(0);  // once is enough
-    EXPECT_EQ(manager->AreASListenersBlocked(), 0);
     manager->Raise_OnRequestUpdateBOM(&instance, nullptr);
     EXPECT_EQ(recorders.journal, Everyone(L"bom", L"(null)"));
 }
@@ -286,24 +255,19 @@ TEST_F(ManagerTest, ThePositionEventIsTracedEvenWhenItIsDropped) {
 }
 
 TEST_F(ManagerTest, DialogsReportWhatTheyWouldShow) {
-    AcDbDatabase drawing;
-    acdbHostApplicationServices()->setWorkingDatabase(&drawing);
     auto* log = XimoGis::Workspace::CWsManager::Instance();
     log->ClearMessages();
     auto scheme = boost::make_shared<CASInstance>();
     scheme->SetDefinitionId(L"{W}");
     manager->GetASIStorage()->AddASInstance(scheme);
     manager->ShowASManager();
-    manager->ShowASElementEditor();
     manager->ShowCatalogConverter();
     const auto& messages = log->GetMessages();
-    ASSERT_EQ(messages.size(), 4u);
+    ASSERT_EQ(messages.size(), 3u);
     EXPECT_EQ(messages[0].text, L"Scheme manager: 1 scheme(s) in the current drawing");
     EXPECT_EQ(messages[1].text, L"Scheme of definition \"{W}\"");
     EXPECT_EQ(messages[1].guid, scheme->GetGuid());
-    EXPECT_NE(messages[2].text.find(L"Element block editor"), std::wstring::npos);
-    EXPECT_NE(messages[3].text.find(L"Catalog converter"), std::wstring::npos);
+    EXPECT_EQ(messages[2].text.rfind(L"Catalog converter", 0), 0u);
     log->ClearMessages();
-    manager->ReleaseASIStorage(&drawing);
-    acdbHostApplicationServices()->setWorkingDatabase(nullptr);
+    manager->ReleaseASIStorage(nullptr);
 }
