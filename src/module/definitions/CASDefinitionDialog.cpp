@@ -5,6 +5,8 @@
 #include "module/definitions/CASRepository.h"
 #include "module/manager/CASManager.h"
 
+#include "host/input/acedInput.h"
+
 namespace XimoGis::AssemblySchemes {
 
 using Data::CPropertyValue;
@@ -33,15 +35,24 @@ CASDefinitionDialog::CASDefinitionDialog(CASDefinition* definition, CASRepositor
 
 int CASDefinitionDialog::DoModal() {
     m_error.clear();
-    if (!m_definition || !m_edit || !m_edit->confirm) return 0;
+    if (!m_definition) return 0;
     CASDefinition work(m_definition);
-    if (!Apply(work)) return 0;
+    if (!Apply(work) || !Confirmed(work.GetName())) return 0;
     work.MakeDeepCopy(*m_definition);
     return 1;
 }
 
+bool CASDefinitionDialog::Confirmed(const std::wstring& name) {
+    acedInitGet(0, L"OK Cancel");
+    ACHAR answer[133] = L"";
+    const std::wstring prompt = L"\nSave the definition \"" + name + L"\"? [OK/Cancel] <OK>: ";
+    const int status = acedGetKword(prompt.c_str(), answer, 133);
+    return status == RTNONE || (status == RTNORM && std::wstring(answer) == L"OK");
+}
+
 bool CASDefinitionDialog::Apply(CASDefinition& work) {
-    return ApplyName(work) && ApplyProperties(work) && RemoveComponents(work) && AddComponents(work);
+    if (!ApplyName(work)) return false;
+    return !m_edit || (ApplyProperties(work) && RemoveComponents(work) && AddComponents(work));
 }
 
 bool CASDefinitionDialog::Refuse(const std::wstring& reason) {
@@ -50,7 +61,7 @@ bool CASDefinitionDialog::Refuse(const std::wstring& reason) {
 }
 
 bool CASDefinitionDialog::ApplyName(CASDefinition& work) {
-    if (!m_edit->name.empty()) work.SetName(m_edit->name);
+    if (m_edit && !m_edit->name.empty()) work.SetName(m_edit->name);
     if (work.GetName().empty()) return Refuse(L"a definition needs a name");
     if (m_repository) {
         for (const CRepositoryItem* item : m_repository->GetRepositoryItems()) {

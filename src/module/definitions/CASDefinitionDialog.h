@@ -1,8 +1,11 @@
 #pragma once
 // The definition editor, run on one definition of a repository in "new" or "edit" mode. This
-// build has no windows: the user's part comes as a CASDefinitionEdit. The changes are made on a
-// copy and given to the definition only when they are confirmed and all of them are valid, so a
-// cancelled or refused edit leaves the definition as it was.
+// build has no windows: the changes typed into the fields come as a CASDefinitionEdit, and the
+// closing button from the input script, at the prompt
+//   Save the definition "<name>"? [OK/Cancel] <OK>:
+// where "OK" or Enter confirms, and "Cancel", Escape or an empty script cancel. The changes are
+// made on a copy and given to the definition only when all of them are valid and the user
+// confirms, so a cancelled or refused edit leaves the definition as it was.
 
 #include "module/definitions/CASDefinitionEdit.h"
 
@@ -17,12 +20,12 @@ class CASDefinitionDialog {
 public:
     enum enmMode { eModeNew, eModeEdit };
 
-    // `edit` may be null: with no answer from the user the dialog counts as cancelled.
+    // `edit` may be null: the user changes nothing.
     CASDefinitionDialog(CASDefinition* definition, CASRepository* repository, enmMode mode,
                         const CASDefinitionEdit* edit);
 
-    // 1 when the user confirmed and the changes were made; 0 otherwise, with the reason in
-    // GetError() when a change was refused.
+    // 1 when the changes were made and the user confirmed; 0 otherwise, with the reason in
+    // GetError() when a change was refused (the user is then not asked).
     int DoModal();
     const std::wstring& GetError() const { return m_error; }
     enmMode GetMode() const { return m_mode; }
@@ -34,6 +37,7 @@ private:
     bool RemoveComponents(CASDefinition& work);
     bool AddComponents(CASDefinition& work);
     bool Refuse(const std::wstring& reason);
+    static bool Confirmed(const std::wstring& name);
 
     CASDefinition* m_definition;
     CASRepository* m_repository;

@@ -1,6 +1,6 @@
 #pragma once
-// What the user does in the definition editor, given beforehand since this build has no windows:
-// the changes to make and whether to confirm them.
+// What the user changes in the definition editor's fields, given beforehand since this build has
+// no windows. Whether the user then confirms is read from the input script.
 
 #include <string>
 #include <utility>
@@ -16,7 +16,6 @@ struct CASDefinitionEdit {
         double offy = 0.0;
     };
 
-    bool confirm = false;
     std::wstring name;  // empty keeps the name
     std::vector<std::pair<std::wstring, std::wstring>> properties;  // tag and value, set in this order
     std::vector<std::wstring> removedComponents;  // internal ids, removed before components are added

@@ -1,7 +1,7 @@
 #pragma once
 // Makes and edits scheme definitions for the repository browser, the single instance working on
-// the repository given last to Instance(). The "UI" forms run the definition editor; the user's
-// part in it is the edit set with SetEditorInput (none: every editor run counts as cancelled).
+// the repository given last to Instance(). The "UI" forms run the definition editor, with the
+// field changes set by SetEditorInput and the confirmation read from the input script.
 
 #include "module/definitions/CASDefinitionDialog.h"
 #include "module/definitions/CASDefinitionEdit.h"

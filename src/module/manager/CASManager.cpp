@@ -28,7 +28,7 @@
 #include "framework/systems/CGisSystem.h"
 #include "framework/systems/CSystemManager.h"
 #include "framework/workspace/CWsManager.h"
-#include "host/database/AcDbDatabase.h"
+#include "host/documents/CAcModuleResourceOverride.h"
 
 #include <boost/make_shared.hpp>
 
@@ -124,13 +124,10 @@ CGisSystem* CASManager::GetSystemByASDefinitionId(const wchar_t* id) const {
 }
 
 boost::shared_ptr<CASInstanceStorage>& CASManager::GetASIStorage() {
-    const AcDbDatabase* document = acdbHostApplicationServices()->workingDatabase();
-    boost::shared_ptr<CASInstanceStorage>& storage = m_storages[document];
+    boost::shared_ptr<CASInstanceStorage>& storage = m_storages.docData();
     if (!storage) storage = boost::make_shared<CASInstanceStorage>();
     return storage;
 }
-
-void CASManager::ReleaseASIStorage(const AcDbDatabase* document) { m_storages.erase(document); }
 
 CASDefinition* CASManager::DefinitionForEvent(CASInstance* instance, CASDefinition* definition) const {
     return definition ? definition : GetASDefinitionById(instance->GetDefinitionId().c_str());
@@ -172,6 +169,7 @@ void CASManager::Raise_OnRequestUpdatePositionLabels(CASInstance* instance, CASD
 }
 
 void CASManager::ShowASManager() {
+    [[maybe_unused]] CAcModuleResourceOverride resources;
     const CASInstanceStorage::Registry& schemes = GetASIStorage()->GetASRegistry();
     Workspace::CWsManager::LogMessage(
         0, L"Scheme manager: " + std::to_wstring(schemes.size()) + L" scheme(s) in the current drawing");
@@ -180,10 +178,12 @@ void CASManager::ShowASManager() {
 }
 
 void CASManager::ShowASElementEditor() {
+    [[maybe_unused]] CAcModuleResourceOverride resources;
     Workspace::CWsManager::LogMessage(0, L"Element block editor: no window in this build, nothing edited");
 }
 
 void CASManager::ShowCatalogConverter() {
+    [[maybe_unused]] CAcModuleResourceOverride resources;
     Workspace::CWsManager::LogMessage(0, L"Catalog converter: no window in this build, nothing converted");
 }
 

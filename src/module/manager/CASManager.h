@@ -9,13 +9,13 @@
 #include "module/manager/IAssemblyElementTypeProvider.h"
 #include "module/manager/IASListener.h"
 
+#include "host/documents/AcApDataManager.h"
+
 #include <boost/shared_ptr.hpp>
 
 #include <map>
 #include <string>
 #include <vector>
-
-class AcDbDatabase;
 
 namespace XimoGis::System {
 class CGisSystem;
@@ -60,11 +60,9 @@ public:
     // holds a definition with that id; null when none does.
     System::CGisSystem* GetSystemByASDefinitionId(const wchar_t* id) const;
 
-    // The instance storage of the current document (the host's working database), created on
-    // first access, so never empty.
+    // The instance storage of the host's current document, created on first access, so never
+    // empty; it is dropped when its document closes.
     boost::shared_ptr<CASInstanceStorage>& GetASIStorage();
-    // Drops the storage of a document that is closed; the host calls it when its document goes.
-    void ReleaseASIStorage(const AcDbDatabase* document);
     // Nothing to do: instances write themselves onto their entities whenever they change.
     void SaveInstanceStorage() {}
 
@@ -82,8 +80,8 @@ public:
     void Raise_OnRequestUpdateBOM(CASInstance* instance, CASDefinition* definition);
     void Raise_OnRequestUpdatePositionLabels(CASInstance* instance, CASDefinition* definition);
 
-    // The module's dialogs. This build has no windows: each writes what it would show to the
-    // workspace's message log.
+    // The module's dialogs, with the module's resources current. This build has no windows: each
+    // writes what it would show to the workspace's message log.
     void ShowASManager();
     void ShowASElementEditor();
     void ShowCatalogConverter();
@@ -102,7 +100,7 @@ private:
 
     int m_listenersBlocked = 0;
     ElementTypeRegistry m_elementTypes;
-    std::map<const AcDbDatabase*, boost::shared_ptr<CASInstanceStorage>> m_storages;
+    AcApDataManager<boost::shared_ptr<CASInstanceStorage>> m_storages;
     ComponentRegistry m_components;
     boost::shared_ptr<CASEventResponder> m_responder;
 

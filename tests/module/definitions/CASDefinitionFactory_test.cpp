@@ -4,6 +4,7 @@
 #include "module/definitions/CASRepository.h"
 
 #include "framework/systems/CGisSystem.h"
+#include "host/input/AcEdInputScript.h"
 
 #include <gtest/gtest.h>
 
@@ -17,7 +18,10 @@ namespace {
 
 class DefinitionFactory : public ::testing::Test {
 protected:
-    void TearDown() override { CASDefinitionFactory::Instance(nullptr)->ClearEditorInput(); }
+    void TearDown() override {
+        CASDefinitionFactory::Instance(nullptr)->ClearEditorInput();
+        acedInputScript()->clear();
+    }
     std::unique_ptr<CASDefinition> Made(CRepositoryItem* item) {
         return std::unique_ptr<CASDefinition>(dynamic_cast<CASDefinition*>(item));
     }
@@ -48,29 +52,31 @@ TEST_F(DefinitionFactory, NewDefinitionsGetTheNextFreeNameAndTheSchemeTopology) 
     EXPECT_FALSE(factory->CreateRepositoryItem(&plain));
 
     CASDefinitionFactory::Instance(nullptr);
+    acedInputScript()->addEnter();
     EXPECT_FALSE(factory->CreateRepositoryItem(etAssemblyScheme, &water));
     EXPECT_FALSE(factory->CreateRepositoryItemUI(etAssemblyScheme, &water));
     EXPECT_EQ(factory->EditRepositoryItemUI(taken), 0);
+    EXPECT_EQ(acedInputScript()->pendingCount(), 1u);
 }
 
-TEST_F(DefinitionFactory, TheEditorDecidesWhatIsKept) {
+TEST_F(DefinitionFactory, TheUserDecidesWhatIsKept) {
     EXPECT_FALSE(factory->CreateRepositoryItemUI(etAssemblyScheme, &water));  // no answer: cancelled
     CASDefinitionEdit edit;
-    edit.confirm = true;
     edit.properties = {{L"ASPW", L"420"}};
     factory->SetEditorInput(edit);
+    acedInputScript()->addScript(L"text OK; text Cancel; enter");
     const auto made = Made(factory->CreateRepositoryItemUI(etAssemblyScheme, &water));
     ASSERT_TRUE(made);
     EXPECT_DOUBLE_EQ(made->GetPaperWidth(), 420.0);
     EXPECT_EQ(made->GetTopologyType(), 8);
+    edit.properties = {{L"ASPH", L"100"}};
+    factory->SetEditorInput(edit);
+    EXPECT_EQ(factory->EditRepositoryItemUI(made.get()), 0);
+    EXPECT_EQ(factory->EditRepositoryItemUI(made.get()), 1);
+    EXPECT_DOUBLE_EQ(made->GetPaperHeight(), 100.0);
 
     edit.properties = {{L"ASPW", L"wide"}};
     factory->SetEditorInput(edit);
     EXPECT_FALSE(factory->CreateRepositoryItemUI(etAssemblyScheme, &water));
     EXPECT_NE(factory->GetLastEditorError().find(L"\"wide\" is not a valid value of \"ASPW\""), std::wstring::npos);
-    EXPECT_EQ(factory->EditRepositoryItemUI(made.get()), 0);
-    edit.properties = {{L"ASPH", L"100"}};
-    factory->SetEditorInput(edit);
-    EXPECT_EQ(factory->EditRepositoryItemUI(made.get()), 1);
-    EXPECT_DOUBLE_EQ(made->GetPaperHeight(), 100.0);
 }

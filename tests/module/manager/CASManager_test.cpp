@@ -12,7 +12,7 @@
 #include "framework/logging/CLogEngine.h"
 #include "framework/systems/CSystemManager.h"
 #include "framework/workspace/CWsManager.h"
-#include "host/database/AcDbDatabase.h"
+#include "host/documents/AcApDocManager.h"
 
 #include <gtest/gtest.h>
 
@@ -138,18 +138,17 @@ TEST_F(ManagerTest, SystemsAreFoundByDefinitionWithTheirRepositoryReadAgain) {
 }
 
 TEST_F(ManagerTest, EachDocumentHasItsOwnStorageEmptiedWhenASystemGoes) {
-    AcDbDatabase first;
-    AcDbDatabase second;
-    acdbHostApplicationServices()->setWorkingDatabase(&first);
+    ASSERT_EQ(acDocManager->appContextNewDocument(), Acad::eOk);
+    AcApDocument* first = acDocManager->curDocument();
     const auto storage = manager->GetASIStorage();
     ASSERT_TRUE(storage && storage->GetASRegistry().empty());
     storage->AddASInstance(boost::make_shared<CASInstance>());
     manager->SaveInstanceStorage();
     EXPECT_EQ(manager->GetASIStorage()->GetASRegistry().size(), 1u);
-    acdbHostApplicationServices()->setWorkingDatabase(&second);
+    ASSERT_EQ(acDocManager->appContextNewDocument(), Acad::eOk);
     EXPECT_TRUE(manager->GetASIStorage()->GetASRegistry().empty());
-    manager->ReleaseASIStorage(&second);
-    acdbHostApplicationServices()->setWorkingDatabase(&first);
+    acDocManager->closeDocument(acDocManager->curDocument());
+    ASSERT_EQ(acDocManager->curDocument(), first);
     EXPECT_EQ(manager->GetASIStorage(), storage);
 
     // The responder drops the schemes of the current drawing, whichever system goes.
@@ -159,10 +158,7 @@ TEST_F(ManagerTest, EachDocumentHasItsOwnStorageEmptiedWhenASystemGoes) {
     storage->AddASInstance(boost::make_shared<CASInstance>());
     ASSERT_TRUE(systems->DeleteSystem(other, error)) << error;
     EXPECT_TRUE(storage->GetASRegistry().empty());
-    manager->ReleaseASIStorage(&first);
-    EXPECT_NE(manager->GetASIStorage(), storage);
-    manager->ReleaseASIStorage(&first);
-    acdbHostApplicationServices()->setWorkingDatabase(nullptr);
+    acDocManager->closeDocument(first);
 }
 
 TEST_F(ManagerTest, EveryEventReachesEveryComponentInIdOrder) {
@@ -269,5 +265,5 @@ TEST_F(ManagerTest, DialogsReportWhatTheyWouldShow) {
     EXPECT_EQ(messages[1].guid, scheme->GetGuid());
     EXPECT_EQ(messages[2].text.rfind(L"Catalog converter", 0), 0u);
     log->ClearMessages();
-    manager->ReleaseASIStorage(nullptr);
+    manager->GetASIStorage()->Clear();
 }
