@@ -124,8 +124,8 @@ void CASDefinition::GetXML(std::wostream& out) const {
     out << CASFormat::Format(
         L"<asDefinition id=\"%ls\" name=\"%ls\" entType=\"%d\" topologyType=\"%d\" topologyFunction=\"%d\" "
         L"readOnly=\"%d\" hidden=\"%d\" scale=\"%ls\">",
-        GetId().c_str(), CASXmlEscape::EncodeAttribute(GetName()).c_str(), GetEntType(), GetTopologyType(), GetTopologyFunction(),
-        GetReadOnly(), GetHidden(), CASXmlEscape::EncodeAttribute(m_scale->Serialize()).c_str());
+        GetId().c_str(), CASXmlEscape::EncodeAttribute(GetName()).c_str(), GetEntType(), GetTopologyType(),
+        GetTopologyFunction(), GetReadOnly(), GetHidden(), CASXmlEscape::EncodeAttribute(m_scale->Serialize()).c_str());
     out << L"<cmps>";
     for (const auto& [id, component] : m_components) component->GetXML(out);
     out << L"</cmps>";

@@ -153,7 +153,8 @@ void CASManager::Raise_OnElementPositionChanged(CASInstance* instance, CASDefini
                       L"XimoGis::AssemblySchemes::CASManager::Raise_OnElementPositionChanged");
     if (m_listenersBlocked || !instance) return;
     definition = DefinitionForEvent(instance, definition);
-    for (const auto& [id, component] : m_components) component->OnElementPositionChanged(instance, definition, elements);
+    for (const auto& [id, component] : m_components)
+        component->OnElementPositionChanged(instance, definition, elements);
 }
 
 void CASManager::Raise_OnRequestUpdateBOM(CASInstance* instance, CASDefinition* definition) {

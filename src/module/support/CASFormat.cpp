@@ -15,7 +15,8 @@ std::wstring CASFormat::Format(const wchar_t* format, ...) {
         va_start(args, format);
         const int written = std::vswprintf(buffer.data(), buffer.size(), format, args);
         va_end(args);
-        if (written >= 0 && static_cast<std::size_t>(written) < buffer.size()) return std::wstring(buffer.data(), written);
+        if (written >= 0 && static_cast<std::size_t>(written) < buffer.size())
+            return std::wstring(buffer.data(), written);
         if (buffer.size() >= (1u << 20)) return {};
         buffer.resize(buffer.size() * 4);
     }

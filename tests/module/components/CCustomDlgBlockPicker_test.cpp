@@ -10,7 +10,8 @@ using namespace XimoGis::Data;
 TEST(CCustomDlgBlockPicker, ChoosesTheBlockAndForgetsTheOldBlocksValues) {
     CPropertiesEx properties;
     properties.AddCategory(994, 994, 994);
-    auto name = properties.AddProperty(994, boost::make_shared<CPropertyEx>(L"IT_BLOCK_NAME", enmPropertyValueType::Text));
+    auto name =
+        properties.AddProperty(994, boost::make_shared<CPropertyEx>(L"IT_BLOCK_NAME", enmPropertyValueType::Text));
     properties.AddProperty(994, boost::make_shared<CPropertyEx>(L"IT_BLOCK_ATTDATA", enmPropertyValueType::Text));
     properties.SetPropertyValue(L"IT_BLOCK_NAME", L"IT_A4");
     properties.SetPropertyValue(L"IT_BLOCK_ATTDATA", L"DATE:2024;");

@@ -61,7 +61,8 @@ TEST(CASRepository, AWrongRootLoadsNothingAndDropsWhatWasLoaded) {
 
 TEST(CASRepository, OnlyExplodedOneSetsTheFlag) {
     CASRepository repository;
-    for (const auto& [text, flag] : {std::pair{L"<schemes exploded=\"1\"/>", 1}, std::pair{L"<schemes exploded=\"2\"/>", 0},
+    for (const auto& [text, flag] : {std::pair{L"<schemes exploded=\"1\"/>", 1},
+                                     std::pair{L"<schemes exploded=\"2\"/>", 0},
                                      std::pair{L"<schemes exploded=\"1\"/>", 1}, std::pair{L"<schemes/>", 0}}) {
         ASSERT_EQ(repository.ReadXML(text), 1) << text;
         EXPECT_EQ(repository.IsExploded(), flag) << text;
