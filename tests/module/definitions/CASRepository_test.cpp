@@ -1,12 +1,8 @@
 #include "module/definitions/CASRepository.h"
 
-#include "framework/TempFolder.h"
 #include "module/definitions/CASDefinition.h"
 #include "module/definitions/CASRepositoryFactory.h"
-#include "module/manager/CASManager.h"
 
-#include "framework/repository/CRepositoryManager.h"
-#include "framework/systems/CSystemManager.h"
 #include "host/base/AcString.h"
 
 #include <gtest/gtest.h>
@@ -17,8 +13,6 @@
 
 using namespace XimoGis::AssemblySchemes;
 using XimoGis::CDefinitionRepository;
-using XimoGis::CRepositoryManager;
-using XimoGis::System::CSystemManager;
 
 namespace {
 
@@ -76,36 +70,6 @@ TEST(CASRepositoryFactory, MakesAndFreesEmptySchemeRepositories) {
     factory.FreeRepositoryMemory(made);
     factory.FreeRepositoryMemory(nullptr);
     EXPECT_EQ(factory.GetRepositoryName(), L"Assembly schemes");
-}
-
-TEST(CASRepository, SavesAndLoadsThroughTheSystemsFile) {
-    XimoGis::Testing::TempFolder folder;
-    std::wstring error;
-    CSystemManager* systems = CSystemManager::Instance();
-    ASSERT_TRUE(systems->OpenWorkspace(folder.Text(), error, true)) << error;
-    auto* water = systems->CreateSystem(1, L"Vodovod", 8, {}, error);
-    ASSERT_TRUE(water) << error;
-    folder.Write("systems/1/AS.xml", "<schemes exploded=\"1\"><asDefinition id=\"{A4}\" name=\"A4\"/></schemes>");
-    CASManager::Instance();  // registers the repository factory
-    CDefinitionRepository* repository = CRepositoryManager::GetSystemRepository(water, L"AS", 0);
-    ASSERT_TRUE(dynamic_cast<CASRepository*>(repository));
-    ASSERT_EQ(repository->GetItemCount(), 1u);
-
-    auto* added = new CASDefinition();
-    added->SetName(L"A3 & more");
-    ASSERT_TRUE(repository->AddRepositoryItem(added, 0));
-    ASSERT_TRUE(repository->Save(error)) << error;
-    const std::string saved = folder.Read("systems/1/AS.xml");
-    EXPECT_EQ(saved.rfind("<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<schemes version=\"1\" exploded=\"1\">\n"
-                          "<asDefinition id=\"{A4}\" name=\"A4\" ",
-                          0),
-              0u)
-        << saved;
-
-    repository = CRepositoryManager::GetSystemRepository(water, L"AS", CRepositoryManager::kReload);
-    ASSERT_EQ(repository->GetItemCount(), 2u);
-    EXPECT_EQ(repository->GetXML(), std::wstring(saved.begin(), saved.end()));
-    systems->CloseWorkspace();
 }
 
 TEST(CASRepository, TheDemoRepositoryHoldsAnA4AndAnA3Sheet) {
