@@ -38,6 +38,13 @@ CAschArguments& CAschArguments::AddWindow() {
     return *this;
 }
 
+CAschArguments& CAschArguments::AddPositional(const char* name, const char* help, bool required) {
+    m_hidden.add_options()(name, po::value<std::string>(), help);
+    m_positional.add(name, 1);
+    if (required) m_required.emplace_back(name, std::string("no ") + name + " given");
+    return *this;
+}
+
 po::options_description_easy_init CAschArguments::AddOptions() { return m_options.add_options(); }
 
 bool CAschArguments::Parse(const std::vector<std::string>& words, std::string& error) {

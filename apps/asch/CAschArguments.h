@@ -26,6 +26,8 @@ public:
     CAschArguments& AddOutput(const char* help);
     // "--window X1,Y1,X2,Y2": a rectangle in drawing coordinates; optional.
     CAschArguments& AddWindow();
+    // A word after the command, in the order of declaration ("asch definitions show ID").
+    CAschArguments& AddPositional(const char* name, const char* help, bool required);
     // The command's own options.
     boost::program_options::options_description_easy_init AddOptions();
 
@@ -36,6 +38,8 @@ public:
     std::wstring GetDrawing() const { return Wide("drawing"); }
     std::wstring GetWorkspace() const { return Wide("workspace"); }
     std::wstring GetOutput() const { return Wide("output"); }
+    // A text value by name (a positional or an option); empty when not given.
+    std::wstring GetText(const char* name) const { return Wide(name); }
     // The window when one was given.
     const std::optional<AcDbExtents>& GetWindow() const { return m_window; }
     const boost::program_options::variables_map& GetValues() const { return m_values; }

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "CAschCommandRegistry.h"
+#include "CDefinitionsCommand.h"
 #include "CDemoCommand.h"
 #include "CInfoCommand.h"
 #include "CRenderCommand.h"
@@ -13,6 +14,7 @@
 int main(int argc, char** argv) {
     using namespace XimoGis::Asch;
     CAschCommandRegistry registry;
+    registry.Register(std::make_unique<CDefinitionsCommand>());
     registry.Register(std::make_unique<CDemoCommand>());
     registry.Register(std::make_unique<CInfoCommand>());
     registry.Register(std::make_unique<CRenderCommand>());
