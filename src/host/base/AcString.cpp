@@ -55,12 +55,23 @@ std::wstring acutUtf8ToWchar(std::string_view text) {
     return out;
 }
 
+namespace {
+// ASCII letters directly: names are mostly ASCII, and towupper is a library call per character.
+wchar_t upper(wchar_t c) {
+    if (c < 0x80) return c >= L'a' && c <= L'z' ? static_cast<wchar_t>(c - (L'a' - L'A')) : c;
+    return static_cast<wchar_t>(std::towupper(static_cast<wint_t>(c)));
+}
+}  // namespace
+
 std::wstring acutUpperName(std::wstring_view name) {
     std::wstring out(name);
-    for (auto& c : out) c = static_cast<wchar_t>(std::towupper(static_cast<wint_t>(c)));
+    for (auto& c : out) c = upper(c);
     return out;
 }
 
 bool acutNamesEqual(std::wstring_view a, std::wstring_view b) {
-    return a.size() == b.size() && acutUpperName(a) == acutUpperName(b);
+    if (a.size() != b.size()) return false;
+    for (std::size_t i = 0; i < a.size(); ++i)
+        if (a[i] != b[i] && upper(a[i]) != upper(b[i])) return false;
+    return true;
 }

@@ -58,6 +58,8 @@ Acad::ErrorStatus AcDbDatabase::addAcDbObject(AcDbObjectId& id, AcDbObject* obje
     id.setNull();
     if (!object) return Acad::eNullObjectPointer;
     if (object->m_stub) return Acad::eAlreadyInDb;
+    if (handle == 0) handle = m_handleForNext;
+    m_handleForNext = 0;
     if (handle == 0 || m_byHandle.count(handle)) handle = m_nextHandle;
     m_nextHandle = std::max(m_nextHandle, handle + 1);
     auto stub = std::make_unique<AcDbStub>();
@@ -74,6 +76,8 @@ Acad::ErrorStatus AcDbDatabase::addAcDbObject(AcDbObjectId& id, AcDbObject* obje
     return Acad::eOk;
 }
 
+void AcDbDatabase::setHandseed(Adesk::UInt32 seed) { m_nextHandle = std::max(m_nextHandle, seed); }
+
 AcDbObject* AcDbDatabase::peekObject(AcDbObjectId id) {
     return id.isNull() ? nullptr : stubOf(id)->object.get();
 }
@@ -87,6 +91,7 @@ void AcDbDatabase::swapContents(AcDbDatabase& other) {
     std::swap(m_stubs, other.m_stubs);
     std::swap(m_byHandle, other.m_byHandle);
     std::swap(m_nextHandle, other.m_nextHandle);
+    std::swap(m_handleForNext, other.m_handleForNext);
     std::swap(m_blockTable, other.m_blockTable);
     std::swap(m_layerTable, other.m_layerTable);
     std::swap(m_linetypeTable, other.m_linetypeTable);

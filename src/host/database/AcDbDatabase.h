@@ -87,6 +87,11 @@ public:
     Acad::ErrorStatus addAcDbObject(AcDbObjectId& id, AcDbObject* object, AcDbObjectId owner,
                                     Adesk::UInt32 handle = 0);
     AcDbObjectId idFromHandle(Adesk::UInt32 handle) const;
+    // Reading files: the next object added takes this handle when it is free (objects are added
+    // through their tables and blocks, which give no handle of their own), and the next free
+    // handle is raised to the file's (never lowered), so handles in use elsewhere are not reused.
+    void setHandleForNextObject(Adesk::UInt32 handle) { m_handleForNext = handle; }
+    void setHandseed(Adesk::UInt32 seed);
     static AcDbObjectId idOf(AcDbStub* stub) { return AcDbObjectId(stub); }
     static AcDbStub* stubOf(AcDbObjectId id) { return id.m_stub; }
     // The object behind an id without opening it: for the host layer's own bookkeeping only.
@@ -100,6 +105,7 @@ private:
     std::vector<std::unique_ptr<AcDbStub>> m_stubs;
     std::unordered_map<Adesk::UInt32, AcDbStub*> m_byHandle;
     Adesk::UInt32 m_nextHandle = 1;
+    Adesk::UInt32 m_handleForNext = 0;
     AcDbObjectId m_blockTable, m_layerTable, m_linetypeTable, m_textStyleTable, m_regAppTable;
     int m_insunits = 4;
     std::wstring m_fileName;

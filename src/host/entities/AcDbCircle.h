@@ -6,7 +6,7 @@ class AcDbCircle : public AcDbEntity {
 public:
     AcDbCircle() = default;
     AcDbCircle(const AcGePoint3d& center, const AcGeVector3d& normal, double radius)
-        : m_center(center), m_normal(normal), m_radius(radius) {}
+        : m_center(center), m_normal(normal.normal()), m_radius(radius) {}
     const ACHAR* isA() const override { return L"AcDbCircle"; }
     AcDbObject* clone() const override { return new AcDbCircle(*this); }
 
