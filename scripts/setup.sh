@@ -10,7 +10,7 @@ packages=(
   libsqlite3-dev sqlite3
   unixodbc-dev odbc-mdbtools mdbtools
   libgtest-dev libgmock-dev googletest
-  python3-ezdxf python3-matplotlib
+  python3-ezdxf python3-matplotlib librsvg2-bin
   librecad
 )
 

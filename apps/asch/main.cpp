@@ -1,12 +1,16 @@
+// asch: the command-line host of the assembly schemes engine.
+
 #include <iostream>
+#include <memory>
 #include <string>
+#include <vector>
+
+#include "CAschCommandRegistry.h"
+#include "CDemoCommand.h"
 
 int main(int argc, char** argv) {
-    const std::string arg = argc > 1 ? argv[1] : "";
-    if (arg == "--version") {
-        std::cout << "asch " << XIMO_VERSION << "\n";
-        return 0;
-    }
-    std::cout << "usage: asch [--help] [--version] COMMAND ...\n";
-    return arg == "--help" ? 0 : 2;
+    using namespace XimoGis::Asch;
+    CAschCommandRegistry registry;
+    registry.Register(std::make_unique<CDemoCommand>());
+    return registry.Run(std::vector<std::string>(argv + 1, argv + argc), std::cout, std::cerr);
 }

@@ -1,0 +1,58 @@
+#pragma once
+// The arguments of one command, parsed with Boost.Program_options. Commands declare what they
+// take with the shared declarations (a drawing, a workspace, an output, a window) so that every
+// command spells and checks them the same way, and add their own options beside.
+
+#include <boost/program_options.hpp>
+
+#include <optional>
+#include <ostream>
+#include <string>
+#include <vector>
+
+#include "host/database/AcDbExtents.h"
+
+namespace XimoGis::Asch {
+
+class CAschArguments {
+public:
+    explicit CAschArguments(std::string command);
+
+    // The drawing file, the first argument after the command; required.
+    CAschArguments& AddDrawing(const char* help = "the drawing, a DXF file");
+    // "--workspace W": the folder of a workspace; required when asked for.
+    CAschArguments& AddWorkspace(bool required = true);
+    // "-o PATH" / "--output PATH"; required.
+    CAschArguments& AddOutput(const char* help);
+    // "--window X1,Y1,X2,Y2": a rectangle in drawing coordinates; optional.
+    CAschArguments& AddWindow();
+    // The command's own options.
+    boost::program_options::options_description_easy_init AddOptions();
+
+    // Parses the words after the command name. False with a message for a usage error.
+    bool Parse(const std::vector<std::string>& words, std::string& error);
+
+    bool WantsHelp() const { return m_values.count("help") > 0; }
+    std::wstring GetDrawing() const { return Wide("drawing"); }
+    std::wstring GetWorkspace() const { return Wide("workspace"); }
+    std::wstring GetOutput() const { return Wide("output"); }
+    // The window when one was given.
+    const std::optional<AcDbExtents>& GetWindow() const { return m_window; }
+    const boost::program_options::variables_map& GetValues() const { return m_values; }
+    void PrintOptions(std::ostream& out) const;
+
+private:
+    std::wstring Wide(const char* name) const;
+    bool ParseWindow(const std::string& text, std::string& error);
+
+    std::string m_command;
+    boost::program_options::options_description m_options;
+    boost::program_options::options_description m_hidden;
+    boost::program_options::positional_options_description m_positional;
+    boost::program_options::variables_map m_values;
+    // Required values with what to tell when one is missing.
+    std::vector<std::pair<std::string, std::string>> m_required;
+    std::optional<AcDbExtents> m_window;
+};
+
+}  // namespace XimoGis::Asch
