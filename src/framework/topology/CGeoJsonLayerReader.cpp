@@ -87,6 +87,11 @@ bool ReadColumns(const Json& root, enmDataTarget target, std::vector<CDataDefini
             why = L"column \"" + column + L"\" needs a name and a type (integer, real or text)";
             return false;
         }
+        if (!CDataDefinition::IsValidColumnName(column) || CNetworkLayers::IsReservedColumn(column) ||
+            column == L"name") {
+            why = L"column \"" + column + L"\" is not a valid data column name";
+            return false;
+        }
         columns.emplace_back(target, column, found->second, MemberText(entry, "name"), MemberText(entry, "unit"));
     }
     return true;
