@@ -20,6 +20,9 @@ public:
 
     // The drawing file, the first argument after the command; required.
     CAschArguments& AddDrawing(const char* help = "the drawing, a DXF file");
+    // A further word in its place after the command (after the drawing, when there is one), e.g.
+    // the action and folder of "asch workspace init DIR"; `name` also names it in messages.
+    CAschArguments& AddPositional(const char* name, const char* help, bool required = true);
     // "--workspace W": the folder of a workspace; required when asked for.
     CAschArguments& AddWorkspace(bool required = true);
     // "-o PATH" / "--output PATH"; required.
@@ -36,6 +39,8 @@ public:
     std::wstring GetDrawing() const { return Wide("drawing"); }
     std::wstring GetWorkspace() const { return Wide("workspace"); }
     std::wstring GetOutput() const { return Wide("output"); }
+    // A positional argument or a text option; empty when not given.
+    std::wstring GetText(const char* name) const { return Wide(name); }
     // The window when one was given.
     const std::optional<AcDbExtents>& GetWindow() const { return m_window; }
     const boost::program_options::variables_map& GetValues() const { return m_values; }

@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <tuple>
 #include <utility>
 #include <vector>
 
@@ -55,6 +56,8 @@ void CManholeFrontView::Draw(const CManholeModel& model, const CPropertiesEx& pr
     const double axisAngle = std::atan2(axis.y, axis.x);
 
     std::vector<std::pair<double, double>> leftOpenings, rightOpenings;
+    // Labels of the openings seen in the shaft: (u, lowest v, text), stacked later so none overlap.
+    std::vector<std::tuple<double, double, std::wstring>> openingLabels;
     for (const CManholePipe& pipe : model.pipes) {
         const double phi = std::atan2(pipe.direction.y, pipe.direction.x) - axisAngle;
         const double c = std::cos(phi), s = std::sin(phi);
@@ -76,8 +79,14 @@ void CManholeFrontView::Draw(const CManholeModel& model, const CPropertiesEx& pr
             // Seen through the shaft on the far wall; the near wall is cut away, so dashed.
             sketch.Ellipse(r * c, bottom + pipe.diameter / 2.0, pipe.diameter / 2.0 * std::fabs(s), pipe.diameter / 2.0,
                            pipeColour, s > 0.0 ? nullptr : L"HIDDEN");
-            sketch.Text(r * c, top + gap, label, text.height, text.colour, text.style, CManholeSketch::alCentre);
+            openingLabels.emplace_back(r * c, top + gap, label);
         }
+    }
+    std::sort(openingLabels.begin(), openingLabels.end());
+    double above = floor;
+    for (const auto& [u, lowest, label] : openingLabels) {
+        above = std::max(lowest, above + 1.6 * gap);
+        sketch.Text(u, above, label, text.height, text.colour, text.style, CManholeSketch::alCentre);
     }
 
     DrawWall(sketch, -rw, -r, floor, slab, leftOpenings, wallColour);

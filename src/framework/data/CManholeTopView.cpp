@@ -57,7 +57,7 @@ void CManholeTopView::Draw(const CManholeModel& model, const CPropertiesEx& prop
         sketch.Text(at.x, at.y + (std::fabs(d.x) < 0.3 ? (d.y > 0 ? gap : -gap) : 0.0),
                     CManholeViewText::PipeLabel(pipe), text.height, text.colour, text.style, align);
     }
-    sketch.Text(0.0, -reach - 3.0 * gap, CManholeViewText::Title(9943, model.name), text.height, text.colour, text.style,
+    sketch.Text(0.0, -reach - 4.5 * gap, CManholeViewText::Title(9943, model.name), text.height, text.colour, text.style,
                 CManholeSketch::alCentre);
 }
 
