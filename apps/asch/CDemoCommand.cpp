@@ -4,6 +4,7 @@
 #include <system_error>
 
 #include "CDemoDrawing.h"
+#include "CDrawingFile.h"
 #include "host/base/AcString.h"
 #include "host/svg/AcSvgRenderer.h"
 
@@ -22,8 +23,11 @@ int CDemoCommand::Run(const CAschArguments& arguments, CAschConsole& console) co
 
     AcDbDatabase db;
     if (!CDemoDrawing::Build(db)) return console.Fail(std::string("the host refused a part of the demo drawing"));
+    const std::wstring drawing = acutUtf8ToWchar((folder / "demo.dxf").string());
     const std::wstring picture = acutUtf8ToWchar((folder / "demo.svg").string());
     std::wstring error;
+    if (!CDrawingFile::Save(db, drawing, error)) return console.Fail(error);
+    console.Out() << "wrote " << acutWcharToUtf8(drawing) << '\n';
     if (acdbWriteSvgFile(db, AcSvgOptions(), picture.c_str(), &error) != Acad::eOk) return console.Fail(error);
     console.Out() << "wrote " << acutWcharToUtf8(picture) << '\n';
     return kExitOk;

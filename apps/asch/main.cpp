@@ -7,13 +7,17 @@
 
 #include "CAschCommandRegistry.h"
 #include "CDemoCommand.h"
+#include "CInfoCommand.h"
 #include "CManholeCommand.h"
+#include "CRenderCommand.h"
 #include "CWorkspaceCommand.h"
 
 int main(int argc, char** argv) {
     using namespace XimoGis::Asch;
     CAschCommandRegistry registry;
     registry.Register(std::make_unique<CDemoCommand>());
+    registry.Register(std::make_unique<CInfoCommand>());
+    registry.Register(std::make_unique<CRenderCommand>());
     registry.Register(std::make_unique<CWorkspaceCommand>());
     registry.Register(std::make_unique<CManholeCommand>());
     return registry.Run(std::vector<std::string>(argv + 1, argv + argc), std::cout, std::cerr);

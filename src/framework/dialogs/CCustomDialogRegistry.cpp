@@ -1,5 +1,7 @@
 #include "framework/dialogs/CCustomDialogRegistry.h"
 
+#include "host/input/acedInput.h"
+
 namespace XimoGis::Data {
 
 CCustomDialogRegistry* CCustomDialogRegistry::Instance() {
@@ -38,9 +40,17 @@ void CCustomDialogRegistry::ClearPresetValues() {
 enmCustomDialogResult CCustomDialogRegistry::RunDialog(CPropertyEx& property, CPropertiesEx* properties) {
     const auto dialog = GetDialog(property.GetCustomControlId());
     if (!dialog) return enmCustomDialogResult::NoDialog;
-    const auto answer = m_presetValues.find(property.GetCustomControlId());
-    if (answer == m_presetValues.end() || !dialog->Run(property, properties, answer->second))
-        return enmCustomDialogResult::Cancelled;
+    std::wstring answer;
+    if (const auto preset = m_presetValues.find(property.GetCustomControlId()); preset != m_presetValues.end()) {
+        answer = preset->second;
+    } else {
+        // Without a preset the answer is read from the input script; Escape or nothing cancels.
+        ACHAR typed[512] = L"";
+        const std::wstring prompt = L"\n" + property.GetTag() + L": ";
+        if (acedGetString(1, prompt.c_str(), typed, 512) != RTNORM) return enmCustomDialogResult::Cancelled;
+        answer = typed;
+    }
+    if (!dialog->Run(property, properties, answer)) return enmCustomDialogResult::Cancelled;
     if (properties) properties->ApplyDependencies(property.GetTag());
     return enmCustomDialogResult::Chosen;
 }

@@ -36,7 +36,8 @@ public:
     bool ClearPresetValue(const std::wstring& controlId);
     void ClearPresetValues();
 
-    // Runs the dialog registered under the property's custom control id with its preset answer. When
+    // Runs the dialog registered under the property's custom control id with its preset answer, or
+    // without one with the next text of the input script (Escape or an empty script cancels). When
     // a value is chosen and `properties` is given, the property's dependency rule is applied to it.
     enmCustomDialogResult RunDialog(CPropertyEx& property, CPropertiesEx* properties);
 

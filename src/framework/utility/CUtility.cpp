@@ -11,6 +11,7 @@
 #include <geos/geom/Polygon.h>
 
 #include "framework/cad/CXimoCDraw.h"
+#include "host/input/acedGraphics.h"
 
 namespace XimoGis::Utility {
 
@@ -34,6 +35,14 @@ std::wstring CUtility::CreateGUID() {
 bool CUtility::FileExists(const std::wstring& path) {
     std::error_code ec;
     return !path.empty() && std::filesystem::is_regular_file(std::filesystem::path(path), ec);
+}
+
+void CUtility::acedGrDrawCross(const AcGePoint3d& point, double size, int color) {
+    const double h = size / 2.0;
+    const ads_point a = {point.x - h, point.y - h, point.z}, b = {point.x + h, point.y + h, point.z};
+    const ads_point c = {point.x - h, point.y + h, point.z}, d = {point.x + h, point.y - h, point.z};
+    ::acedGrDraw(a, b, color, 0);
+    ::acedGrDraw(c, d, color, 0);
 }
 
 int CUtility::EraseElements(const AcDbObjectIdArray& ids) {

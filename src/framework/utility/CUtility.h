@@ -7,6 +7,7 @@
 
 #include "host/base/AcArray.h"
 #include "host/database/AcDbObjectId.h"
+#include "host/geometry/AcGePoint3d.h"
 
 namespace XimoGis::Utility {
 
@@ -21,6 +22,9 @@ public:
     // Draws a geometry into model space of the working database in a colour: points as points,
     // line strings as polylines, polygons as closed polylines per ring, collections part by part.
     // The new ids are appended to ids when given. Returns the number of entities drawn.
+    // Shows a temporary cross of the given size (drawing units) at a point, in a colour; it goes
+    // with the next redraw.
+    static void acedGrDrawCross(const AcGePoint3d& point, double size, int color);
     static int drawGeometry(const geos::geom::Geometry* geometry, Adesk::UInt16 color, AcDbObjectIdArray* ids = nullptr);
 };
 

@@ -25,6 +25,16 @@ Acad::ErrorStatus acutWriteFileAtomically(const std::wstring& fileName, std::str
     std::string pattern = (folder / ("." + target.filename().string() + ".XXXXXX")).string();
     const int fd = mkstemp(pattern.data());
     if (fd < 0) return fail(error, fileName, std::strerror(errno));
+    // mkstemp makes a file only its owner may read: the result keeps the target's permissions, or
+    // gets those of any new file.
+    struct stat existing {};
+    if (stat(target.c_str(), &existing) == 0) {
+        fchmod(fd, existing.st_mode & 07777);
+    } else {
+        const mode_t mask = umask(0);
+        umask(mask);
+        fchmod(fd, 0666 & ~mask);
+    }
     std::FILE* file = fdopen(fd, "wb");
     if (!file) {
         const int code = errno;
@@ -41,10 +51,6 @@ Acad::ErrorStatus acutWriteFileAtomically(const std::wstring& fileName, std::str
         std::remove(pattern.c_str());
         return fail(error, fileName, std::strerror(writeError ? writeError : EIO));
     }
-    // mkstemp makes the file readable by its owner only; a picture or drawing is an ordinary file.
-    const mode_t mask = umask(0);
-    umask(mask);
-    chmod(pattern.c_str(), 0666 & ~mask);
     if (std::rename(pattern.c_str(), target.c_str()) != 0) {
         const int code = errno;
         std::remove(pattern.c_str());

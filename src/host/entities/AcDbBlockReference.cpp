@@ -101,15 +101,7 @@ void AcDbBlockReference::subErase(bool erasing) {
 }
 
 Acad::ErrorStatus AcDbBlockReference::getGeomExtents(AcDbExtents& extents) const {
-    extents = AcDbExtents();
-    AcDbVoidPtrArray parts;
-    explode(parts);
-    for (void* part : parts) {
-        auto* entity = static_cast<AcDbEntity*>(part);
-        AcDbExtents e;
-        if (entity->getGeomExtents(e) == Acad::eOk) extents.addExt(e);
-        delete entity;
-    }
+    extents = explodedExtents();
     if (!extents.isValid()) extents.addPoint(m_position);
     return Acad::eOk;
 }

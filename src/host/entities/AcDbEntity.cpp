@@ -56,3 +56,16 @@ Acad::ErrorStatus AcDbEntity::getTransformedCopy(const AcGeMatrix3d& m, AcDbEnti
 }
 
 Acad::ErrorStatus AcDbEntity::explode(AcDbVoidPtrArray&) const { return Acad::eNotApplicable; }
+
+AcDbExtents AcDbEntity::explodedExtents() const {
+    AcDbExtents extents;
+    AcDbVoidPtrArray parts;
+    explode(parts);
+    for (void* part : parts) {
+        auto* entity = static_cast<AcDbEntity*>(part);
+        AcDbExtents e;
+        if (entity->getGeomExtents(e) == Acad::eOk) extents.addExt(e);
+        delete entity;
+    }
+    return extents;
+}

@@ -39,6 +39,9 @@ public:
     virtual Acad::ErrorStatus explode(AcDbVoidPtrArray& entities) const;
 
 protected:
+    // The extents of what explode() gives; empty when it gives nothing.
+    AcDbExtents explodedExtents() const;
+
     AcDbEntity() = default;
     AcDbEntity(const AcDbEntity&) = default;
     void subAddedToDatabase(AcDbDatabase* db) override;

@@ -77,17 +77,8 @@ Acad::ErrorStatus AcDbPolyline::setConstantWidth(double width) {
 }
 
 Acad::ErrorStatus AcDbPolyline::getGeomExtents(AcDbExtents& extents) const {
-    extents = AcDbExtents();
-    AcDbVoidPtrArray parts;
-    explode(parts);
-    for (void* part : parts) {
-        auto* entity = static_cast<AcDbEntity*>(part);
-        AcDbExtents e;
-        entity->getGeomExtents(e);
-        extents.addExt(e);
-        delete entity;
-    }
-    if (parts.isEmpty())
+    extents = explodedExtents();
+    if (!extents.isValid())  // a single vertex has no segments
         for (const Vertex& v : m_vertices) extents.addPoint({v.point.x, v.point.y, m_elevation});
     return extents.isValid() ? Acad::eOk : Acad::eInvalidExtents;
 }

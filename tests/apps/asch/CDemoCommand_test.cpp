@@ -12,6 +12,8 @@ TEST(CDemoCommand, WritesThePictureOfTheDemoDrawing) {
     const auto result = run("demo -o '" + out + "'");
     ASSERT_EQ(result.code, 0) << result.err;
     EXPECT_NE(result.out.find("demo.svg"), std::string::npos);
+    EXPECT_NE(result.out.find("demo.dxf"), std::string::npos);
+    EXPECT_TRUE(std::filesystem::exists(out + "/demo.dxf"));
     pugi::xml_document svg;
     ASSERT_TRUE(svg.load_file((out + "/demo.svg").c_str()));
     // Four valves, each with a nested flange pair and its visible position attribute.

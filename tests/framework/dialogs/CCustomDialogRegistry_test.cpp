@@ -3,6 +3,8 @@
 #include <boost/make_shared.hpp>
 #include <gtest/gtest.h>
 
+#include "host/input/AcEdInputScript.h"
+
 using namespace XimoGis::Data;
 
 namespace {
@@ -58,12 +60,21 @@ TEST_F(CCustomDialogRegistryTest, RegistrationIsKeyedByControlId) {
     EXPECT_EQ(registry->RunDialog(*block, &set), enmCustomDialogResult::NoDialog);
 }
 
-TEST_F(CCustomDialogRegistryTest, WithoutAnAnswerTheDialogIsCancelled) {
+TEST_F(CCustomDialogRegistryTest, WithoutAPresetTheInputScriptAnswers) {
     registry->SetPresetValue(kId, L"IT_A4|A:1;");
     EXPECT_TRUE(registry->ClearPresetValue(kId));
+    acedInputScript()->clear();
+    EXPECT_EQ(registry->RunDialog(*block, &set), enmCustomDialogResult::Cancelled);  // nothing typed
+    acedInputScript()->addEscape();
     EXPECT_EQ(registry->RunDialog(*block, &set), enmCustomDialogResult::Cancelled);
     EXPECT_EQ(dialog->runs, 0);
     EXPECT_TRUE(block->GetValue().IsNull());
+
+    acedInputScript()->addText(L"IT_A3|DATUM:1;");
+    EXPECT_EQ(registry->RunDialog(*block, &set), enmCustomDialogResult::Chosen);
+    EXPECT_EQ(set.GetStrProperty(L"IT_BLOCK_NAME", L"", 1), L"IT_A3");
+    EXPECT_EQ(set.GetStrProperty(L"IT_BLOCK_ATTDATA", L"", 1), L"DATUM:1;");
+    acedInputScript()->clear();
 }
 
 TEST_F(CCustomDialogRegistryTest, PresetAnswerIsWrittenByTheDialog) {
