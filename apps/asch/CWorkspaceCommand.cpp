@@ -1,6 +1,7 @@
 #include "CWorkspaceCommand.h"
 
 #include "framework/config/CModuleConfiguration.h"
+#include "framework/demo/CDemoWorkspace.h"
 #include "framework/systems/CSystemManager.h"
 #include "framework/topology/CNetworkImport.h"
 #include "framework/topology/CTopologyMultiStorage.h"
@@ -54,10 +55,11 @@ int CWorkspaceCommand::Init(const CAschArguments& arguments, CAschConsole& conso
         console.Fail(std::string("--demo and --source exclude each other"));
         return kExitUsage;
     }
-    if (demo) source = Workspace::CWorkspaceBuilder::GetDemoSourceFolder();
     const std::wstring folder = arguments.GetText("folder");
     std::wstring error;
-    if (!Workspace::CWorkspaceBuilder::Build(folder, source, {}, error)) return console.Fail(error);
+    const bool built = demo ? Demo::CDemoWorkspace::Build(folder, error)
+                            : Workspace::CWorkspaceBuilder::Build(folder, source, {}, error);
+    if (!built) return console.Fail(error);
     console.Out() << "workspace written to " << Utf8(folder) << '\n';
     return kExitOk;
 }
