@@ -5,6 +5,8 @@
 
 #include <sqlite3.h>
 
+#include <fstream>
+
 using XimoGis::Testing::QueryInt;
 using XimoGis::Topology::CNetworkImport;
 
@@ -41,4 +43,16 @@ TEST_F(CNetworkImportTest, ALockedStoreIsReportedAndKeepsItsLayers) {
     EXPECT_EQ(QueryInt(Store(), "SELECT count(*) FROM network_1_sections"), 3);
     ASSERT_TRUE(CNetworkImport::Import(*system, File("nodes.geojson"), File("fewer.geojson"), error)) << error;
     EXPECT_EQ(QueryInt(Store(), "SELECT count(*) FROM network_1_sections"), 2);
+}
+
+TEST_F(CNetworkImportTest, ADamagedStoreIsNamedAndLeftAsItWas) {
+    {
+        std::fstream store(Store(), std::ios::binary | std::ios::in | std::ios::out);
+        store.seekp(100);
+        store << std::string(4000, '\x5A');
+    }
+    const std::string before = folder.Read("workspace.gpkg");
+    EXPECT_FALSE(CNetworkImport::Import(*system, File("nodes.geojson"), File("sections.geojson"), error));
+    EXPECT_NE(error.find(Store().wstring()), std::wstring::npos) << error;
+    EXPECT_EQ(folder.Read("workspace.gpkg"), before);
 }
