@@ -141,7 +141,7 @@ Acad::ErrorStatus AcDbObject::setXData(const resbuf* xdata) {
     return Acad::eOk;
 }
 
-Acad::ErrorStatus AcDbObject::setXData(const AcDbXDataApp& data) {
+Acad::ErrorStatus AcDbObject::setXData(AcDbXDataApp&& data) {
     if (data.application.empty()) return Acad::eInvalidInput;
     for (const auto& v : data.values)
         if (!acdbIsXDataValueCode(v.code)) return Acad::eInvalidDxfCode;
@@ -151,9 +151,9 @@ Acad::ErrorStatus AcDbObject::setXData(const AcDbXDataApp& data) {
     if (data.values.empty()) {
         if (it != m_xdata.end()) m_xdata.erase(it);
     } else if (it != m_xdata.end()) {
-        it->values = data.values;
+        it->values = std::move(data.values);
     } else {
-        m_xdata.push_back(data);
+        m_xdata.push_back(std::move(data));
     }
     return Acad::eOk;
 }

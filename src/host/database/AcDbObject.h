@@ -48,7 +48,9 @@ public:
     // The same data for C++ callers.
     const AcDbXDataList& xDataList() const { return m_xdata; }
     const AcDbXDataApp* xDataFor(const std::wstring& application) const;
-    Acad::ErrorStatus setXData(const AcDbXDataApp& data);
+    Acad::ErrorStatus setXData(const AcDbXDataApp& data) { return setXData(AcDbXDataApp(data)); }
+    // Takes the data over (reading files sets much extended data).
+    Acad::ErrorStatus setXData(AcDbXDataApp&& data);
 
 protected:
     AcDbObject() = default;

@@ -2,6 +2,7 @@
 
 #include <charconv>
 
+#include "host/dxf/DxfBlockCycle.h"
 #include "host/entities/AcDbArc.h"
 #include "host/entities/AcDbAttribute.h"
 #include "host/entities/AcDbAttributeDefinition.h"
@@ -13,21 +14,12 @@
 #include "host/entities/AcDbPolyline.h"
 
 namespace {
-template <class Table>
-AcDbObjectId tableOf(const AcDbDatabase& db);
-template <>
-AcDbObjectId tableOf<AcDbLinetypeTable>(const AcDbDatabase& db) { return db.linetypeTableId(); }
-template <>
-AcDbObjectId tableOf<AcDbTextStyleTable>(const AcDbDatabase& db) { return db.textStyleTableId(); }
-template <>
-AcDbObjectId tableOf<AcDbBlockTable>(const AcDbDatabase& db) { return db.blockTableId(); }
-
 // Adds a record of that name when the table has none; prepare sets it up first.
-template <class Table, class Record, class Prepare>
-void ensureRecord(AcDbDatabase& db, const std::wstring& name, Prepare prepare) {
+template <class Record, class Prepare>
+void ensureRecord(AcDbObjectId tableId, const std::wstring& name, Prepare prepare) {
     AcDbObjectId id;
-    Table* table = nullptr;
-    if (acdbOpenObject(table, tableOf<Table>(db), AcDb::kForWrite) != Acad::eOk) return;
+    AcDbSymbolTable* table = nullptr;
+    if (acdbOpenObject(table, tableId, AcDb::kForWrite) != Acad::eOk) return;
     if (table->getAt(name.c_str(), id, true) != Acad::eOk) {
         auto* record = new Record;
         record->setName(name.c_str());
@@ -35,6 +27,25 @@ void ensureRecord(AcDbDatabase& db, const std::wstring& name, Prepare prepare) {
         if (table->add(record) == Acad::eOk) record->close(); else delete record;
     }
     table->close();
+}
+
+// Opens the owner (a table, a block, a block reference) for write and adds the object to it in
+// the owner's way, under the handle the file gives it. An object the owner refuses (a name given
+// twice) is deleted. The object's id, null when refused.
+template <class Owner, class Object, class Add>
+AcDbObjectId addUnderHandle(AcDbDatabase& db, Adesk::UInt32 handle, AcDbObjectId ownerId, Object* object, Add add) {
+    Owner* owner = nullptr;
+    AcDbObjectId id;
+    if (acdbOpenObject(owner, ownerId, AcDb::kForWrite) == Acad::eOk) {
+        db.setHandleForNextObject(handle);
+        if (add(*owner, id, object) == Acad::eOk) object->close();
+        owner->close();
+    }
+    if (id.isNull()) {
+        db.setHandleForNextObject(0);
+        delete object;
+    }
+    return id;
 }
 
 void registerApplicationsOf(AcDbDatabase& db, AcDbObjectId tableId) {
@@ -63,21 +74,15 @@ void DxfDatabaseBuilder::setVariableInt(const std::string& key, int value, int) 
 void DxfDatabaseBuilder::addRecord(AcDbObjectId tableId, AcDbSymbolTableRecord* record) {
     if (!record) return;
     m_tables.readXData(*record, *m_object);
-    AcDbSymbolTable* table = nullptr;
-    AcDbObjectId id;
-    if (acdbOpenObject(table, tableId, AcDb::kForWrite) == Acad::eOk) {
-        m_db.setHandleForNextObject(m_object->handle());
-        if (table->add(id, record) == Acad::eOk) record->close();
-        table->close();
-    }
-    // A record the table refuses (a name given twice) is dropped.
-    if (id.isNull()) {
-        m_db.setHandleForNextObject(0);
-        delete record;
-    }
+    addUnderHandle<AcDbSymbolTable>(m_db, m_object->handle(), tableId, record,
+                                    [](AcDbSymbolTable& table, AcDbObjectId& id, AcDbSymbolTableRecord* r) {
+                                        return table.add(id, r);
+                                    });
 }
 
-void DxfDatabaseBuilder::addLayer(const DL_LayerData& d) { addRecord(m_db.layerTableId(), m_tables.layer(d, *m_object, m_db)); }
+void DxfDatabaseBuilder::addLayer(const DL_LayerData& d) {
+    addRecord(m_db.layerTableId(), m_tables.layer(d, *m_object, m_db));
+}
 
 void DxfDatabaseBuilder::addLinetype(const DL_LinetypeData& d) {
     addRecord(m_db.linetypeTableId(), m_tables.linetype(d, *m_object));
@@ -87,38 +92,35 @@ void DxfDatabaseBuilder::addTextStyle(const DL_StyleData& d) {
     addRecord(m_db.textStyleTableId(), m_tables.textStyle(d));
 }
 
-void DxfDatabaseBuilder::objectEnded(const DxfObject& object) {
-    const std::string_view type = object.type();
+void DxfDatabaseBuilder::objectEnded() {
+    const std::string_view type = m_object ? m_object->type() : std::string_view();
     if (type == "APPID") {
-        addRecord(m_db.regAppTableId(), m_tables.application(object));
+        addRecord(m_db.regAppTableId(), m_tables.application(*m_object));
     } else if (type == "BLOCK_RECORD") {
-        AcDbBlockTableRecord* record = m_tables.blockRecord(object);
+        AcDbBlockTableRecord* record = m_tables.blockRecord(*m_object);
         if (record && m_db.blockId(record->name()).isNull()) addRecord(m_db.blockTableId(), record);
         else delete record;
     } else if (type == "ATTDEF") {
-        AcDbAttributeDefinition* definition = m_entities.attributeDefinition(object);
+        AcDbAttributeDefinition* definition = m_entities.attributeDefinition(*m_object);
         noteTextStyle(definition->textStyleName());
         place(definition);
     }
 }
 
-AcDbObjectId DxfDatabaseBuilder::blockNamed(const std::wstring& name) {
-    AcDbObjectId id = m_db.blockId(name);
+AcDbObjectId DxfDatabaseBuilder::blockNamed(const std::wstring& name, Adesk::UInt32 handle) {
+    const AcDbObjectId id = m_db.blockId(name);
     if (!id.isNull() || name.empty()) return id;
-    AcDbBlockTable* table = nullptr;
-    if (m_db.getBlockTable(table, AcDb::kForWrite) != Acad::eOk) return id;
     auto* record = new AcDbBlockTableRecord;
     record->setName(name.c_str());
-    if (table->add(id, record) == Acad::eOk) record->close(); else delete record;
-    table->close();
-    return id;
+    return addUnderHandle<AcDbSymbolTable>(m_db, handle, m_db.blockTableId(), record,
+                                           [](AcDbSymbolTable& table, AcDbObjectId& added, AcDbSymbolTableRecord* r) {
+                                               return table.add(added, r);
+                                           });
 }
 
 void DxfDatabaseBuilder::addBlock(const DL_BlockData& d) {
-    const std::wstring name = dxfBlockName(m_codec.decode(d.name));
     // Without a BLOCK_RECORD table (older files) the block record takes the BLOCK's handle.
-    if (m_db.blockId(name).isNull()) m_db.setHandleForNextObject(m_object->handle());
-    m_block = blockNamed(name);
+    m_block = blockNamed(dxfBlockName(m_codec.decode(d.name)), m_object->handle());
     AcDbBlockTableRecord* block = nullptr;
     if (acdbOpenObject(block, m_block, AcDb::kForWrite) != Acad::eOk) return;
     block->setOrigin(AcGePoint3d(d.bpx, d.bpy, d.bpz));
@@ -131,19 +133,14 @@ void DxfDatabaseBuilder::endBlock() { m_block.setNull(); }
 void DxfDatabaseBuilder::place(AcDbEntity* entity) {
     m_entities.readCommon(*entity, getAttributes(), *m_object);
     AcDbObjectId owner = m_block;
-    if (owner.isNull()) owner = m_object->integer(67, 0) == 1 ? blockNamed(ACDB_PAPER_SPACE) : blockNamed(ACDB_MODEL_SPACE);
-    AcDbBlockTableRecord* block = nullptr;
-    AcDbObjectId id;
-    if (acdbOpenObject(block, owner, AcDb::kForWrite) == Acad::eOk) {
-        m_db.setHandleForNextObject(m_object->handle());
-        if (block->appendAcDbEntity(id, entity) == Acad::eOk) entity->close();
-        block->close();
-    }
-    if (id.isNull()) {
-        m_db.setHandleForNextObject(0);
-        delete entity;
-    }
-    m_lastReference = dynamic_cast<AcDbBlockReference*>(entity) && !id.isNull() ? id : AcDbObjectId();
+    if (owner.isNull()) owner = blockNamed(m_object->integer(67, 0) == 1 ? ACDB_PAPER_SPACE : ACDB_MODEL_SPACE);
+    const bool reference = dynamic_cast<AcDbBlockReference*>(entity) != nullptr;
+    const AcDbObjectId id = addUnderHandle<AcDbBlockTableRecord>(
+        m_db, m_object->handle(), owner, entity,
+        [](AcDbBlockTableRecord& block, AcDbObjectId& added, AcDbEntity* e) {
+            return block.appendAcDbEntity(added, e);
+        });
+    if (reference) m_lastReference = id;
 }
 
 void DxfDatabaseBuilder::addPoint(const DL_PointData& d) { place(m_entities.point(d)); }
@@ -172,40 +169,48 @@ void DxfDatabaseBuilder::addMText(const DL_MTextData& d) {
 }
 
 void DxfDatabaseBuilder::addAttribute(const DL_AttributeData& d) {
-    AcDbBlockReference* reference = nullptr;
-    if (m_lastReference.isNull() || acdbOpenObject(reference, m_lastReference, AcDb::kForWrite) != Acad::eOk)
-        return;  // an attribute that follows no block reference
+    if (m_lastReference.isNull()) return;  // an attribute that follows no block reference
     AcDbAttribute* attribute = m_entities.attribute(d, *m_object);
     noteTextStyle(attribute->textStyleName());
     m_entities.readCommon(*attribute, getAttributes(), *m_object);
-    AcDbObjectId id;
-    m_db.setHandleForNextObject(m_object->handle());
-    if (reference->appendAttribute(id, attribute) == Acad::eOk) {
-        attribute->close();
-    } else {
-        m_db.setHandleForNextObject(0);
-        delete attribute;
-    }
-    reference->close();
+    addUnderHandle<AcDbBlockReference>(
+        m_db, m_object->handle(), m_lastReference, attribute,
+        [](AcDbBlockReference& reference, AcDbObjectId& id, AcDbAttribute* a) {
+            return reference.appendAttribute(id, a);
+        });
 }
 
 void DxfDatabaseBuilder::endSequence() { m_lastReference.setNull(); }
 
-void DxfDatabaseBuilder::finish() {
-    ensureRecord<AcDbBlockTable, AcDbBlockTableRecord>(m_db, ACDB_MODEL_SPACE, [](auto&) {});
-    ensureRecord<AcDbBlockTable, AcDbBlockTableRecord>(m_db, ACDB_PAPER_SPACE, [](auto&) {});
-    ensureRecord<AcDbLinetypeTable, AcDbLinetypeTableRecord>(m_db, L"ByBlock", [](auto&) {});
-    ensureRecord<AcDbLinetypeTable, AcDbLinetypeTableRecord>(m_db, L"ByLayer", [](auto&) {});
-    ensureRecord<AcDbLinetypeTable, AcDbLinetypeTableRecord>(m_db, L"Continuous",
-                                                             [](auto& r) { r.setComments(L"Solid line"); });
+void DxfDatabaseBuilder::setObject(const DxfObject* object) {
+    // Attributes belong to the block reference right before them, which dxflib may have passed
+    // over (a reference without a block name): anything but an attribute ends the sequence.
+    if (!object || object->type() != "ATTRIB") m_lastReference.setNull();
+    m_object = object;
+}
+
+bool DxfDatabaseBuilder::finish(DxfReadError& error) {
+    const std::wstring cycle = dxfBlockInsertingItself(m_db);
+    if (!cycle.empty()) {
+        error.message = "block \"" + acutWcharToUtf8(cycle) + "\" inserts itself";
+        return false;
+    }
+    const auto plain = [](AcDbSymbolTableRecord&) {};
+    ensureRecord<AcDbBlockTableRecord>(m_db.blockTableId(), ACDB_MODEL_SPACE, plain);
+    ensureRecord<AcDbBlockTableRecord>(m_db.blockTableId(), ACDB_PAPER_SPACE, plain);
+    ensureRecord<AcDbLinetypeTableRecord>(m_db.linetypeTableId(), L"ByBlock", plain);
+    ensureRecord<AcDbLinetypeTableRecord>(m_db.linetypeTableId(), L"ByLayer", plain);
+    ensureRecord<AcDbLinetypeTableRecord>(m_db.linetypeTableId(), L"Continuous",
+                                          [](AcDbLinetypeTableRecord& r) { r.setComments(L"Solid line"); });
     AcDbObjectId layer;
     m_db.addLayer(layer, L"0", 7, L"Continuous");
     m_textStyles.emplace(L"STANDARD", L"Standard");
     for (const auto& style : m_textStyles)
-        ensureRecord<AcDbTextStyleTable, AcDbTextStyleTableRecord>(m_db, style.second, [](auto&) {});
+        ensureRecord<AcDbTextStyleTableRecord>(m_db.textStyleTableId(), style.second, plain);
     m_db.registerApplication(L"ACAD");
     for (const AcDbObjectId table : {m_db.blockTableId(), m_db.layerTableId(), m_db.linetypeTableId(),
                                      m_db.textStyleTableId(), m_db.regAppTableId()})
         registerApplicationsOf(m_db, table);
     m_db.setHandseed(m_handseed);
+    return true;
 }

@@ -4,8 +4,8 @@
 // or paper space, attributes on the block reference before them.
 //
 // dxflib reports an object when the next one starts; the reader hands the builder that object's
-// groups (setObject) for what dxflib leaves out, and passes the kinds dxflib does not read at
-// all to objectEnded.
+// groups first (setObject) for what dxflib leaves out, and calls objectEnded after dxflib is
+// done with it, for the kinds dxflib does not read at all.
 
 #include <map>
 #include <string>
@@ -16,6 +16,7 @@
 #include "host/database/AcDbDatabase.h"
 #include "host/dxf/DxfEntityReader.h"
 #include "host/dxf/DxfObject.h"
+#include "host/dxf/DxfReadError.h"
 #include "host/dxf/DxfTableReader.h"
 #include "host/dxf/DxfTextCodec.h"
 
@@ -24,12 +25,14 @@ public:
     // db is a database without default records (AcDbDatabase(false)).
     explicit DxfDatabaseBuilder(AcDbDatabase& db);
 
-    void setObject(const DxfObject* object) { m_object = object; }
-    // Application ids, block records and attribute definitions.
-    void objectEnded(const DxfObject& object);
+    void setObject(const DxfObject* object);
+    // Builds the object last set if it is of a kind dxflib does not read: application ids, block
+    // records, attribute definitions.
+    void objectEnded();
     // Adds the records a drawing always has when the file lacked them, registers the
-    // applications extended data uses and continues handles from the file's seed.
-    void finish();
+    // applications extended data uses and continues handles from the file's seed. False (error
+    // set) for a drawing no one could use: a block that inserts itself.
+    bool finish(DxfReadError& error);
 
     void setVariableString(const std::string& key, const std::string& value, int code) override;
     void setVariableInt(const std::string& key, int value, int code) override;
@@ -54,8 +57,9 @@ private:
     void addRecord(AcDbObjectId table, AcDbSymbolTableRecord* record);
     // Adds an entity to its block under the object's handle; takes ownership.
     void place(AcDbEntity* entity);
-    // The block record of that name, made when the file has not listed it.
-    AcDbObjectId blockNamed(const std::wstring& name);
+    // The block record of that name, made (under the handle, when free) if the file has not
+    // listed it.
+    AcDbObjectId blockNamed(const std::wstring& name, Adesk::UInt32 handle = 0);
     void noteTextStyle(const std::wstring& name) { m_textStyles.emplace(acutUpperName(name), name); }
 
     AcDbDatabase& m_db;

@@ -42,6 +42,10 @@ bool readFile(const std::string& path, std::string& data, std::string& problem) 
     return true;
 }
 
+// Handles, owners, subclass markers, comments and extended data: dxflib has no use for them in
+// the objects it interprets, and the builder reads them from the groups itself.
+bool readByDxflib(int code) { return code < 999 && code != 5 && code != 100 && code != 102 && code != 330; }
+
 // Feeds dxflib one group at a time through a reused string.
 class DxflibFeed {
 public:
@@ -50,13 +54,14 @@ public:
         m_value.assign(value);
         m_dxf.processDXFGroup(&m_builder, code, m_value);
     }
-    // All groups of an object but comments and extended data, which the builder reads itself.
+    // An object for dxflib to interpret (whole), or only the 0 group that ends the one before.
     void object(const DxfObject& object, bool whole) {
         const auto& groups = object.groups();
         group(0, whole ? groups.front().value : std::string_view());
         if (!whole) return;
+        const bool header = object.type() == "SECTION";
         for (std::size_t i = 1; i < groups.size(); ++i)
-            if (groups[i].code < 999) group(groups[i].code, groups[i].value);
+            if (header || readByDxflib(groups[i].code)) group(groups[i].code, groups[i].value);
     }
 
 private:
@@ -94,30 +99,15 @@ bool DxfDatabaseReader::parse(std::string_view data, AcDbDatabase& db, DxfReadEr
     DxfObject objects[2];
     DxfObject* previous = &objects[0];
     DxfObject* current = &objects[1];
-    DxfGroup group;
-    bool pending = false;  // group holds the 0 group of the next object
     while (!structure.done()) {
-        current->clear();
-        if (pending) current->add(group);
-        pending = false;
-        while (groups.next(group, error)) {
-            if (group.code == 0 && !current->empty()) {
-                pending = true;
-                break;
-            }
-            current->add(group);
-        }
-        if (!error.message.empty()) return false;
-        if (current->empty()) return structure.finish(groups.line(), error);
+        if (!groups.nextObject(*current, error)) return error.message.empty() && structure.finish(groups.line(), error);
         if (!structure.accept(*current, error)) return false;
         if (current->type().empty()) continue;  // comments before the first section
         // The 0 group ends the previous object: dxflib reports it to the builder now.
         builder.setObject(previous);
         dxflib.object(*current, forDxflib(current->type(), structure.section()));
-        builder.objectEnded(*previous);
+        builder.objectEnded();
         std::swap(previous, current);
-        if (!pending && !structure.done()) return structure.finish(groups.line(), error);
     }
-    builder.finish();
-    return true;
+    return builder.finish(error);
 }

@@ -56,7 +56,7 @@ bool syncFile(const std::string& path) {
 }  // namespace
 
 Acad::ErrorStatus DxfDatabaseWriter::write(const std::wstring& fileName, std::wstring& error) const {
-    const std::string target = acutWcharToUtf8(fileName);
+    std::string target = acutWcharToUtf8(fileName);
     const auto fail = [&](const std::string& problem) {
         error = fileName + L": " + acutUtf8ToWchar(problem);
         return Acad::eFileAccessErr;
@@ -64,6 +64,11 @@ Acad::ErrorStatus DxfDatabaseWriter::write(const std::wstring& fileName, std::ws
     if (target.empty()) return fail("no file name given");
     std::error_code ec;
     if (std::filesystem::is_directory(target, ec)) return fail("a folder of that name is in the way");
+    // Through a link the file it points to is replaced, not the link.
+    if (std::filesystem::is_symlink(target, ec)) {
+        const auto resolved = std::filesystem::weakly_canonical(target, ec);
+        if (!ec) target = resolved.string();
+    }
 
     std::string temporary = target + ".XXXXXX";
     const int fd = ::mkstemp(temporary.data());
@@ -72,7 +77,13 @@ Acad::ErrorStatus DxfDatabaseWriter::write(const std::wstring& fileName, std::ws
     ::close(fd);
 
     std::string problem;
-    bool ok = writeSections(temporary, problem);
+    bool ok = false;
+    try {
+        ok = writeSections(temporary, problem);
+    } catch (...) {
+        std::remove(temporary.c_str());  // the caller reports what went wrong
+        throw;
+    }
     if (ok && !syncFile(temporary)) {
         problem = "cannot flush the temporary file to disk: " + systemError();
         ok = false;

@@ -24,22 +24,35 @@ AcGeVector3d direction(const DL_Extrusion& extrusion) {
     return {d[0], d[1], d[2]};
 }
 
+bool equalsIgnoringCase(std::string_view a, std::string_view upper) {
+    if (a.size() != upper.size()) return false;
+    for (std::size_t i = 0; i < a.size(); ++i)
+        if ((a[i] >= 'a' && a[i] <= 'z' ? a[i] - ('a' - 'A') : a[i]) != upper[i]) return false;
+    return true;
+}
+
 enum AttributeFlag { kInvisible = 1, kConstant = 2, kPreset = 8 };
 }  // namespace
 
-void DxfEntityReader::readCommon(AcDbEntity& entity, const DL_Attributes& attributes, const DxfObject& object) const {
+void DxfEntityReader::readCommon(AcDbEntity& entity, const DL_Attributes& attributes, const DxfObject& object) {
     const std::string layer = attributes.getLayer();
-    if (!layer.empty()) entity.setLayer(m_codec.decode(layer).c_str());
-    const std::string linetype = attributes.getLinetype();
+    // Entities come in runs on one layer: decode its name once per run.
+    if (layer != m_layerBytes || m_codec.codePage() != m_layerCodePage) {
+        m_layerBytes = layer;
+        m_layerCodePage = m_codec.codePage();
+        m_layerName = m_codec.decode(layer);
+    }
+    if (!m_layerName.empty()) entity.setLayer(m_layerName.c_str());
     // dxflib gives "BYLAYER" for an entity without a linetype: the database spells it "ByLayer".
-    if (acutNamesEqual(acutUtf8ToWchar(linetype), L"ByLayer")) entity.setLinetype(L"ByLayer");
-    else if (acutNamesEqual(acutUtf8ToWchar(linetype), L"ByBlock")) entity.setLinetype(L"ByBlock");
+    const std::string linetype = attributes.getLinetype();
+    if (equalsIgnoringCase(linetype, "BYLAYER")) entity.setLinetype(L"ByLayer");
+    else if (equalsIgnoringCase(linetype, "BYBLOCK")) entity.setLinetype(L"ByBlock");
     else if (!linetype.empty()) entity.setLinetype(m_codec.decode(linetype).c_str());
     entity.setColorIndex(static_cast<Adesk::UInt16>(std::clamp(std::abs(attributes.getColor()), 0, 256)));
     entity.setLinetypeScale(attributes.getLinetypeScale() > 0.0 ? attributes.getLinetypeScale() : 1.0);
     AcDbXDataList xdata;
     dxfReadXData(object, m_codec, xdata);
-    for (const AcDbXDataApp& app : xdata) entity.setXData(app);
+    for (AcDbXDataApp& app : xdata) entity.setXData(std::move(app));
 }
 
 AcDbLine* DxfEntityReader::line(const DL_LineData& d) const {
@@ -50,7 +63,7 @@ AcDbPoint* DxfEntityReader::point(const DL_PointData& d) const { return new AcDb
 
 AcDbCircle* DxfEntityReader::circle(const DL_CircleData& d, const DL_Extrusion& extrusion) const {
     const DxfOcs ocs(direction(extrusion));
-    return new AcDbCircle(ocs.toWorld(AcGePoint3d(d.cx, d.cy, d.cz)), direction(extrusion).normal(), d.radius);
+    return new AcDbCircle(ocs.toWorld(AcGePoint3d(d.cx, d.cy, d.cz)), ocs.normal(), d.radius);
 }
 
 AcDbArc* DxfEntityReader::arc(const DL_ArcData& d, const DL_Extrusion& extrusion) const {

@@ -7,6 +7,8 @@
 #include <dl_entities.h>
 #include <dl_extrusion.h>
 
+#include <string>
+
 #include "host/dxf/DxfObject.h"
 #include "host/dxf/DxfTextCodec.h"
 
@@ -40,10 +42,13 @@ public:
     AcDbBlockReference* reference(const DL_InsertData& d, const AcDbObjectId& block) const;
 
     // Layer, colour, linetype and extended data; the entity is not in a database yet.
-    void readCommon(AcDbEntity& entity, const DL_Attributes& attributes, const DxfObject& object) const;
+    void readCommon(AcDbEntity& entity, const DL_Attributes& attributes, const DxfObject& object);
 
 private:
     void readText(AcDbText& text, const DL_TextData& d, const DxfObject& object) const;
 
     const DxfTextCodec& m_codec;
+    std::string m_layerBytes;  // the last layer name read, and its decoded form
+    int m_layerCodePage = 0;
+    std::wstring m_layerName;
 };

@@ -48,43 +48,46 @@ std::size_t chunkEnd(const std::string& text, std::size_t begin) {
 }  // namespace
 
 bool DxfEntityWriter::write(const AcDbEntity& entity, Adesk::UInt32 owner, bool paperSpace) const {
+    // By the host's class name: cheaper than a chain of casts, and exact, as a file's kinds are.
+    const std::wstring_view kind = entity.isA();
     const auto begin = [&](const char* type) { head(type, entity, owner, paperSpace); };
-    if (const auto* definition = dynamic_cast<const AcDbAttributeDefinition*>(&entity)) {
-        begin("ATTDEF");
-        attributeDefinition(*definition);
-    } else if (dynamic_cast<const AcDbAttribute*>(&entity)) {
-        return false;  // written with its block reference
-    } else if (const auto* text = dynamic_cast<const AcDbText*>(&entity)) {
-        begin("TEXT");
-        textBody(*text);
-        m_out.subClass("AcDbText");
-        m_out.dxfInt(73, text->verticalMode());
-    } else if (const auto* multiline = dynamic_cast<const AcDbMText*>(&entity)) {
-        begin("MTEXT");
-        mtext(*multiline);
-    } else if (const auto* insert = dynamic_cast<const AcDbBlockReference*>(&entity)) {
-        begin("INSERT");
-        reference(*insert);
-    } else if (const auto* lwpolyline = dynamic_cast<const AcDbPolyline*>(&entity)) {
-        begin("LWPOLYLINE");
-        polyline(*lwpolyline);
-    } else if (const auto* arcEntity = dynamic_cast<const AcDbArc*>(&entity)) {
-        begin("ARC");
-        arc(*arcEntity);
-    } else if (const auto* circleEntity = dynamic_cast<const AcDbCircle*>(&entity)) {
-        begin("CIRCLE");
-        circle(*circleEntity);
-    } else if (const auto* lineEntity = dynamic_cast<const AcDbLine*>(&entity)) {
+    if (kind == L"AcDbLine") {
         begin("LINE");
-        line(*lineEntity);
-    } else if (const auto* pointEntity = dynamic_cast<const AcDbPoint*>(&entity)) {
+        line(static_cast<const AcDbLine&>(entity));
+    } else if (kind == L"AcDbPolyline") {
+        begin("LWPOLYLINE");
+        polyline(static_cast<const AcDbPolyline&>(entity));
+    } else if (kind == L"AcDbBlockReference") {
+        // A reference to no block has no form in a file (readers drop a nameless INSERT).
+        const AcDbObjectId block = static_cast<const AcDbBlockReference&>(entity).blockTableRecord();
+        if (block.isNull() || block.isErased()) return false;
+        begin("INSERT");
+        reference(static_cast<const AcDbBlockReference&>(entity));
+    } else if (kind == L"AcDbText") {
+        begin("TEXT");
+        textBody(static_cast<const AcDbText&>(entity));
+        m_out.subClass("AcDbText");
+        m_out.dxfInt(73, static_cast<const AcDbText&>(entity).verticalMode());
+    } else if (kind == L"AcDbAttributeDefinition") {
+        begin("ATTDEF");
+        attributeDefinition(static_cast<const AcDbAttributeDefinition&>(entity));
+    } else if (kind == L"AcDbMText") {
+        begin("MTEXT");
+        mtext(static_cast<const AcDbMText&>(entity));
+    } else if (kind == L"AcDbCircle") {
+        begin("CIRCLE");
+        circle(static_cast<const AcDbCircle&>(entity));
+    } else if (kind == L"AcDbArc") {
+        begin("ARC");
+        arc(static_cast<const AcDbArc&>(entity));
+    } else if (kind == L"AcDbPoint") {
         begin("POINT");
-        point(*pointEntity);
+        point(static_cast<const AcDbPoint&>(entity));
     } else {
-        return false;
+        return false;  // attributes are written with their block reference
     }
     dxfWriteXData(m_out, entity.xDataList());
-    if (const auto* insert = dynamic_cast<const AcDbBlockReference*>(&entity)) attributesOf(*insert, paperSpace);
+    if (kind == L"AcDbBlockReference") attributesOf(static_cast<const AcDbBlockReference&>(entity), paperSpace);
     return true;
 }
 

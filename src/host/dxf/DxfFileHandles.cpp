@@ -3,9 +3,9 @@
 #include "host/entities/AcDbBlockReference.h"
 
 bool dxfHasAttributes(const AcDbObjectId& reference) {
-    const auto* object = dynamic_cast<const AcDbBlockReference*>(AcDbDatabase::peekObject(reference));
-    if (!object) return false;
-    for (const AcDbObjectId& id : object->attributeIds())
+    const AcDbObject* object = AcDbDatabase::peekObject(reference);
+    if (!object || std::wstring_view(object->isA()) != L"AcDbBlockReference") return false;
+    for (const AcDbObjectId& id : static_cast<const AcDbBlockReference*>(object)->attributeIds())
         if (!id.isErased()) return true;
     return false;
 }

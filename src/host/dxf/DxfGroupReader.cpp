@@ -81,49 +81,53 @@ bool DxfGroupReader::next(DxfGroup& group, DxfReadError& error) {
     return parseValue(group, error);
 }
 
+bool DxfGroupReader::nextObject(DxfObject& object, DxfReadError& error) {
+    object.clear();
+    error = DxfReadError();
+    if (m_hasNext) object.add(m_next);
+    m_hasNext = false;
+    while (next(m_next, error)) {
+        if (m_next.code == 0 && !object.empty()) {
+            m_hasNext = true;
+            return true;
+        }
+        object.add(m_next);
+    }
+    return error.message.empty() && !object.empty();
+}
+
 bool DxfGroupReader::parseValue(DxfGroup& group, DxfReadError& error) const {
+    const auto fail = [&](const std::string& problem) {
+        error = {m_line, quoted(group.value) + " " + problem + " (group code " + std::to_string(group.code) + ")"};
+        return false;
+    };
     switch (dxfValueType(group.code)) {
         case DxfValueType::kUnknown:
             error = {group.line, "unknown group code " + std::to_string(group.code)};
             return false;
         case DxfValueType::kReal:
-            if (!parseNumber(group.value, group.real) || !std::isfinite(group.real)) {
-                error = {m_line, quoted(group.value) + " is not a number (group code " + std::to_string(group.code) + ")"};
-                return false;
-            }
+            if (!parseNumber(group.value, group.real) || !std::isfinite(group.real)) return fail("is not a number");
             return true;
         case DxfValueType::kInteger: {
             std::int64_t min = 0;
             std::int64_t max = 0;
             dxfIntegerRange(group.code, min, max);
-            if (!parseNumber(group.value, group.integer)) {
-                error = {m_line, quoted(group.value) + " is not an integer (group code " + std::to_string(group.code) + ")"};
-                return false;
-            }
-            if (group.integer < min || group.integer > max) {
-                error = {m_line, quoted(group.value) + " is out of range for group code " + std::to_string(group.code)};
-                return false;
-            }
+            if (!parseNumber(group.value, group.integer)) return fail("is not an integer");
+            if (group.integer < min || group.integer > max) return fail("is out of range");
             return true;
         }
         case DxfValueType::kHandle:
-            // Some writers leave pointers to nothing empty.
-            if (trim(group.value).empty() && group.code >= 320) {
-                group.integer = 0;
+            // Pointers to other objects are not followed here; some writers leave them empty or
+            // put a name in them (a dimension style's text style). An object's own handle must be
+            // one.
+            if (group.code != 5 && group.code != 105) {
+                if (!parseHex(group.value, group.integer)) group.integer = 0;
                 return true;
             }
-            if (!parseHex(group.value, group.integer)) {
-                error = {m_line, quoted(group.value) + " is not a handle (group code " + std::to_string(group.code) + ")"};
-                return false;
-            }
-            return true;
+            return parseHex(group.value, group.integer) || fail("is not a handle");
         case DxfValueType::kBinary:
             group.value = trim(group.value);
-            if (!isHexData(group.value)) {
-                error = {m_line, quoted(group.value) + " is not hexadecimal data (group code " + std::to_string(group.code) + ")"};
-                return false;
-            }
-            return true;
+            return isHexData(group.value) || fail("is not hexadecimal data");
         case DxfValueType::kString:
             if (group.value.find('\0') != std::string_view::npos) {
                 error = {m_line, "binary bytes in a text value (group code " + std::to_string(group.code) + ")"};

@@ -6,6 +6,7 @@
 #include <string_view>
 
 #include "host/dxf/DxfGroup.h"
+#include "host/dxf/DxfObject.h"
 #include "host/dxf/DxfReadError.h"
 
 class DxfGroupReader {
@@ -16,6 +17,10 @@ public:
     // The next group; false at the end of the data (error.message empty) or on a malformed
     // group (error set).
     bool next(DxfGroup& group, DxfReadError& error);
+    // The groups of the next object: a 0 group and those up to the next 0 group (the groups
+    // before the first 0 group, comments, make an object without a type). False at the end of
+    // the data (error.message empty) or on a malformed group (error set).
+    bool nextObject(DxfObject& object, DxfReadError& error);
     // The number of the last line read.
     std::uint32_t line() const { return m_line; }
 
@@ -26,4 +31,6 @@ private:
     std::string_view m_data;
     std::size_t m_pos = 0;
     std::uint32_t m_line = 0;
+    DxfGroup m_next;  // the 0 group that ended the last object
+    bool m_hasNext = false;
 };

@@ -11,6 +11,8 @@ public:
 
     // The world system itself (extrusion along +Z).
     bool isWorld() const { return m_world; }
+    // The extrusion as a unit vector (+Z for a zero one).
+    const AcGeVector3d& normal() const { return m_z; }
     AcGePoint3d fromWorld(const AcGePoint3d& p) const;
     AcGePoint3d toWorld(const AcGePoint3d& p) const;
 

@@ -25,7 +25,10 @@ bool DxfStructureCheck::accept(const DxfObject& object, DxfReadError& error) {
         return true;
     }
     if (m_section.empty()) {
-        if (type == "EOF") return m_done = true;
+        if (type == "EOF") {
+            m_done = true;
+            return true;
+        }
         if (type != "SECTION") return fail(text(type) + " outside a section");
         const DxfGroup* name = object.groups().size() > 1 ? &object.groups()[1] : nullptr;
         if (!name || name->code != 2 || name->value.empty()) return fail("a section without a name");
@@ -55,6 +58,8 @@ bool DxfStructureCheck::accept(const DxfObject& object, DxfReadError& error) {
     } else if (m_section == "BLOCKS") {
         if (type == "BLOCK") {
             if (m_blockLine) return fail(openPart() + " is not closed");
+            // dxflib passes over a block without a name, and its entities would land in model space.
+            if (object.string(2).empty()) return fail("a block without a name");
             m_blockLine = line;
             return true;
         }
@@ -74,11 +79,12 @@ bool DxfStructureCheck::accept(const DxfObject& object, DxfReadError& error) {
 
 bool DxfStructureCheck::checkContents(const DxfObject& object, DxfReadError& error) const {
     if (object.type() == "LWPOLYLINE") {
-        const std::int64_t declared = object.integer(90, 0);
+        // dxflib sizes its vertex buffer by every 90 group it meets.
         const std::size_t vertices = object.count(10);
-        if (declared < 0 || static_cast<std::size_t>(declared) != vertices) {
-            error = {object.line(), "LWPOLYLINE declares " + std::to_string(declared) + " vertices but has " +
-                                        std::to_string(vertices)};
+        for (const DxfGroup& g : object.groups()) {
+            if (g.code != 90 || g.integer == static_cast<std::int64_t>(vertices)) continue;
+            error = {g.line, "LWPOLYLINE declares " + std::to_string(g.integer) + " vertices but has " +
+                                 std::to_string(vertices)};
             return false;
         }
     }

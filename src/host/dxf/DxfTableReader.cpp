@@ -27,7 +27,7 @@ std::wstring dxfBlockName(const std::wstring& name) {
 void DxfTableReader::readXData(AcDbObject& record, const DxfObject& object) const {
     AcDbXDataList xdata;
     dxfReadXData(object, m_codec, xdata);
-    for (const AcDbXDataApp& app : xdata) record.setXData(app);
+    for (AcDbXDataApp& app : xdata) record.setXData(std::move(app));
 }
 
 AcDbLayerTableRecord* DxfTableReader::layer(const DL_LayerData& d, const DxfObject& object,

@@ -109,7 +109,8 @@ void DxfTablesWriter::layers() const {
     tableHead("LAYER", m_db.layerTableId().handle(), static_cast<int>(records.size()));
     for (const auto* r : records) {
         const auto& layer = static_cast<const AcDbLayerTableRecord&>(*r);
-        const auto* linetype = dynamic_cast<const AcDbLinetypeTableRecord*>(AcDbDatabase::peekObject(layer.linetypeObjectId()));
+        const auto* linetype =
+            dynamic_cast<const AcDbLinetypeTableRecord*>(AcDbDatabase::peekObject(layer.linetypeObjectId()));
         recordHead("LAYER", "AcDbLayerTableRecord", layer);
         m_out.dxfInt(70, (layer.isFrozen() ? 1 : 0) | (layer.isLocked() ? 4 : 0));
         // A layer that is off has a negative colour.
@@ -183,8 +184,11 @@ void DxfTablesWriter::blockRecords() const {
     tableHead("BLOCK_RECORD", m_db.blockTableId().handle(), static_cast<int>(records.size()));
     for (const auto* r : records) {
         recordHead("BLOCK_RECORD", "AcDbBlockTableRecord", *r);
-        if (acutNamesEqual(r->name(), ACDB_MODEL_SPACE)) m_out.handle(340, m_handles.handle(DxfFileHandles::kModelLayout));
-        else if (acutNamesEqual(r->name(), ACDB_PAPER_SPACE)) m_out.handle(340, m_handles.handle(DxfFileHandles::kPaperLayout));
+        // The spaces point to their layouts.
+        if (acutNamesEqual(r->name(), ACDB_MODEL_SPACE))
+            m_out.handle(340, m_handles.handle(DxfFileHandles::kModelLayout));
+        else if (acutNamesEqual(r->name(), ACDB_PAPER_SPACE))
+            m_out.handle(340, m_handles.handle(DxfFileHandles::kPaperLayout));
         dxfWriteXData(m_out, r->xDataList());
     }
     m_out.tableEnd();

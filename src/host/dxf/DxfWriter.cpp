@@ -13,7 +13,8 @@ void DxfWriter::dxfReal(int gc, double value) const {
     char buffer[40];
     char* end = std::to_chars(buffer, buffer + sizeof(buffer) - 3, value).ptr;
     // A bare integer gets ".0": some readers take a value without a point for an integer.
-    if (std::string_view(buffer, static_cast<std::size_t>(end - buffer)).find_first_of(".e") == std::string_view::npos) {
+    const std::string_view digits(buffer, static_cast<std::size_t>(end - buffer));
+    if (digits.find_first_of(".e") == std::string_view::npos) {
         *end++ = '.';
         *end++ = '0';
     }

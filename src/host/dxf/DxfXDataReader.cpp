@@ -39,7 +39,7 @@ void dxfReadXData(const DxfObject& object, const DxfTextCodec& codec, AcDbXDataL
         } else if (g.code == 1004) {
             app->values.push_back({code, bytesFromHex(g.value)});
         } else {
-            app->values.push_back(AcDbXDataValue::string(codec.decode(g.value), code));
+            app->values.push_back({code, codec.decode(g.value)});
         }
     }
 }

@@ -24,7 +24,7 @@ void dxfWriteXData(const DxfWriter& out, const AcDbXDataList& xdata) {
                     using T = std::decay_t<decltype(value)>;
                     if constexpr (std::is_same_v<T, std::wstring>) out.text(v.code, value);
                     else if constexpr (std::is_same_v<T, double>) out.dxfReal(v.code, value);
-                    else if constexpr (std::is_same_v<T, Adesk::Int16> || std::is_same_v<T, Adesk::Int32>) out.dxfInt(v.code, value);
+                    else if constexpr (std::is_integral_v<T>) out.dxfInt(v.code, value);
                     else if constexpr (std::is_same_v<T, AcGePoint3d>) out.point(v.code, value);
                     else out.dxfString(v.code, hexBytes(value));
                 },

@@ -23,7 +23,9 @@ std::string describe(double v) {
     return s.str();
 }
 std::string describe(const std::wstring& v) { return "\"" + acutWcharToUtf8(v) + "\""; }
-std::string describe(const AcGePoint3d& p) { return "(" + describe(p.x) + ", " + describe(p.y) + ", " + describe(p.z) + ")"; }
+std::string describe(const AcGePoint3d& p) {
+    return "(" + describe(p.x) + ", " + describe(p.y) + ", " + describe(p.z) + ")";
+}
 std::string describe(const AcGeVector3d& v) { return describe(AcGePoint3d(v.x, v.y, v.z)); }
 std::string describe(const AcDbXDataList& xdata) {
     std::string out;

@@ -102,9 +102,9 @@ TEST(DxfDatabaseReader, MalformedGroupsNameTheirLine) {
     EXPECT_THAT(expectRefused(minimalFile("  0\nLINE\n  5\nXYZ\n"), 14), HasSubstr("not a handle"));
     EXPECT_THAT(expectRefused(minimalFile("  0\nLINE\n2000\nx\n"), 13), HasSubstr("unknown group code 2000"));
     EXPECT_THAT(expectRefused(minimalFile(line + "1071\n3000000000\n"), 24), HasSubstr("out of range"));
-    EXPECT_THAT(expectRefused(minimalFile("  0\nLWPOLYLINE\n 90\n3\n 10\n0\n 20\n0\n"), 11),
+    EXPECT_THAT(expectRefused(minimalFile("  0\nLWPOLYLINE\n 90\n3\n 10\n0\n 20\n0\n"), 13),
                 HasSubstr("declares 3 vertices but has 1"));
-    EXPECT_THAT(expectRefused(minimalFile("  0\nLWPOLYLINE\n 90\n2147483647\n"), 11), HasSubstr("vertices"));
+    EXPECT_THAT(expectRefused(minimalFile("  0\nLWPOLYLINE\n 90\n2147483647\n"), 13), HasSubstr("vertices"));
     // Structure.
     EXPECT_THAT(expectRefused("  0\nSECTION\n  2\nENTITIES\n  0\nSECTION\n  2\nBLOCKS\n  0\nEOF\n", 5),
                 HasSubstr("section ENTITIES opened at line 1 is not closed"));
@@ -115,10 +115,66 @@ TEST(DxfDatabaseReader, MalformedGroupsNameTheirLine) {
     EXPECT_THAT(expectRefused("  0\nSECTION\n  0\nENDSEC\n  0\nEOF\n", 1), HasSubstr("without a name"));
 }
 
+TEST(DxfDatabaseReader, BlocksMustBeUsable) {
+    const auto blocks = [](const std::string& body) {
+        return "  0\nSECTION\n  2\nBLOCKS\n" + body + "  0\nENDSEC\n  0\nEOF\n";
+    };
+    const std::string insertA = "  0\nINSERT\n  2\nA\n 10\n0\n 20\n0\n";
+    const std::string insertB = "  0\nINSERT\n  2\nB\n 10\n0\n 20\n0\n";
+    EXPECT_THAT(expectRefused(blocks("  0\nBLOCK\n  2\nA\n" + insertA + "  0\nENDBLK\n")),
+                HasSubstr("\"A\" inserts itself"));
+    EXPECT_THAT(expectRefused(blocks("  0\nBLOCK\n  2\nA\n" + insertB + "  0\nENDBLK\n  0\nBLOCK\n  2\nB\n" + insertA +
+                                     "  0\nENDBLK\n")),
+                HasSubstr("inserts itself"));
+    EXPECT_THAT(expectRefused(blocks("  0\nBLOCK\n 70\n0\n  0\nENDBLK\n"), 5), HasSubstr("a block without a name"));
+}
+
+TEST(DxfDatabaseReader, AttributesBelongOnlyToTheReferenceRightBeforeThem) {
+    // The second reference names no block; dxflib passes over it, and its attribute with it.
+    const std::string attribute = "  0\nATTRIB\n  8\n0\n 10\n0\n 20\n0\n 40\n1\n  1\nv\n  2\nTAG\n 70\n0\n";
+    const std::string file = minimalFile("  0\nINSERT\n  2\nB\n 66\n1\n 10\n0\n 20\n0\n" + attribute + "  0\nSEQEND\n" +
+                                         "  0\nINSERT\n 66\n1\n 10\n0\n 20\n0\n" + attribute + "  0\nSEQEND\n");
+    const fs::path path = dxfTestFolder() / "attributes.dxf";
+    writeBytes(path, file);
+    AcDbDatabase db;
+    ASSERT_EQ(db.dxfIn(path.wstring().c_str()), Acad::eOk);
+    const auto entities = modelSpace(db);
+    ASSERT_EQ(entities.size(), 1u);
+    EXPECT_EQ(static_cast<const AcDbBlockReference*>(entities[0])->attributeIds().size(), 1u);
+}
+
+TEST(DxfDatabaseReader, DamagedFilesNeverCrashTheReader) {
+    const fs::path folder = dxfTestFolder();
+    ASSERT_EQ(makeDxfTestDrawing()->dxfOut((folder / "whole.dxf").wstring().c_str()), Acad::eOk);
+    const std::string whole = readBytes(folder / "whole.dxf");
+    const fs::path file = folder / "damaged.dxf";
+    std::mt19937 random(3);
+    const char replacements[] = "0123456789-.eE \n\r\t\\U+ABxyz\x80\xC4";
+    int refused = 0;
+    for (int i = 0; i < 300; ++i) {
+        std::string bytes = whole;
+        for (int k = 0, n = 1 + static_cast<int>(random() % 4); k < n; ++k) {
+            const std::size_t at = random() % bytes.size();
+            if (random() % 3 == 0) bytes.erase(at, random() % 40);
+            else bytes[at] = replacements[random() % (sizeof(replacements) - 1)];
+        }
+        writeBytes(file, bytes);
+        AcDbDatabase db;
+        std::wstring error;
+        if (db.dxfIn(file.wstring().c_str(), &error) != Acad::eOk) {
+            ++refused;
+            EXPECT_THAT(acutWcharToUtf8(error), HasSubstr("damaged.dxf"));
+            EXPECT_FALSE(db.modelSpaceId().isNull());
+        }
+    }
+    EXPECT_GT(refused, 100);
+}
+
 TEST(DxfDatabaseReader, FilesOfOtherProgramsLoadAndUnknownEntitiesAreSkipped) {
-    // Code page text, UTF-8 text, escapes; entities without handles; kinds the host lacks.
+    // Code page text, UTF-8 text, escapes; entities without handles; kinds the host lacks; a
+    // pointer holding a name, as some writers put there.
     const std::string entities =
-        "  0\nLINE\n  8\nPIPES\n 62\n3\n 10\n1\n 20\n2\n 30\n0\n 11\n4\n 21\n6\n 31\n0\n"
+        "  0\nLINE\n  8\nPIPES\n 62\n3\n347\nStandard\n 10\n1\n 20\n2\n 30\n0\n 11\n4\n 21\n6\n 31\n0\n"
         "1001\nXIMO\n1000\n\xC8vor \\U+0416\n1071\n-5\n"
         "  0\nSPLINE\n  8\n0\n 70\n8\n 71\n3\n 72\n8\n 73\n4\n 40\n0\n 40\n0\n"
         "  0\nTEXT\n  8\n0\n 10\n0\n 20\n0\n 40\n2.5\n  1\n\xC5\xA0" "aht\n 50\n90\n"

@@ -47,7 +47,8 @@ std::vector<const AcDbObject*> objectsWithXData(const AcDbDatabase& db) {
     for (const AcDbObjectId table : {db.layerTableId(), db.linetypeTableId(), db.textStyleTableId(), db.blockTableId()})
         for (const AcDbObjectId& id : static_cast<const AcDbSymbolTable*>(AcDbDatabase::peekObject(table))->recordIds())
             add(id);
-    for (const AcDbObjectId& blockId : static_cast<const AcDbBlockTable*>(AcDbDatabase::peekObject(db.blockTableId()))->recordIds())
+    const auto* blocks = static_cast<const AcDbBlockTable*>(AcDbDatabase::peekObject(db.blockTableId()));
+    for (const AcDbObjectId& blockId : blocks->recordIds())
         for (const AcDbObjectId& id : static_cast<const AcDbBlockTableRecord*>(AcDbDatabase::peekObject(blockId))->entityIds()) {
             add(id);
             if (const auto* reference = dynamic_cast<const AcDbBlockReference*>(AcDbDatabase::peekObject(id)))
@@ -89,12 +90,14 @@ void expectSameXData(const AcDbObject& object, const rapidjson::Value& apps) {
 }  // namespace
 
 TEST(DxfDatabaseWriter, AnIndependentReaderFindsNoErrorsAndTheSameExtendedData) {
-    if (!haveEzdxf()) GTEST_SKIP() << "ezdxf is not installed for " << kPython << " (scripts/setup.sh installs python3-ezdxf)";
+    if (!haveEzdxf())
+        GTEST_SKIP() << "ezdxf is not installed for " << kPython << " (scripts/setup.sh installs python3-ezdxf)";
     const fs::path file = dxfTestFolder() / "scheme.dxf";
     const auto db = makeDxfTestDrawing();
     ASSERT_EQ(db->dxfOut(file.wstring().c_str()), Acad::eOk);
 
-    const std::string json = run(std::string(kPython) + " " + XIMO_SOURCE_DIR "/tests/host/dxf/dxf_inspect.py '" + file.string() + "'");
+    const std::string script = XIMO_SOURCE_DIR "/tests/host/dxf/dxf_inspect.py";
+    const std::string json = run(std::string(kPython) + " " + script + " '" + file.string() + "'");
     rapidjson::Document report;
     ASSERT_FALSE(report.Parse(json.c_str()).HasParseError()) << json;
     std::vector<std::string> errors;
@@ -176,4 +179,13 @@ TEST(DxfDatabaseWriter, AFailedSaveLeavesTheOldFileAsItWas) {
     }
     // No temporary files are left behind.
     EXPECT_EQ(std::distance(fs::directory_iterator(folder), fs::directory_iterator()), 2);
+}
+
+TEST(DxfDatabaseWriter, SavingThroughALinkReplacesTheFileItPointsTo) {
+    const fs::path folder = dxfTestFolder();
+    writeBytes(folder / "real.dxf", "the old drawing");
+    fs::create_symlink("real.dxf", folder / "link.dxf");
+    ASSERT_EQ(makeDxfTestDrawing()->dxfOut((folder / "link.dxf").wstring().c_str()), Acad::eOk);
+    EXPECT_TRUE(fs::is_symlink(folder / "link.dxf"));
+    EXPECT_NE(readBytes(folder / "real.dxf"), "the old drawing");
 }
