@@ -4,12 +4,8 @@
 #include "framework/catalog/CCatalogManager.h"
 #include "framework/config/CModuleConfiguration.h"
 #include "framework/data/CDataRW.h"
-#include "framework/data/CManholeManager.h"
-#include "framework/manholescheme/CMSManager.h"
 #include "framework/systems/CSystemManager.h"
 #include "framework/topology/CTopologyMultiStorage.h"
-#include "framework/workspace/StoreQuery.h"
-#include "host/database/AcDbDatabase.h"
 
 #include <gtest/gtest.h>
 
@@ -101,7 +97,7 @@ TEST_F(CDemoWorkspaceTest, OpensWithAWaterAndASewerSystem) {
 
     const auto* sewer = Network(2);
     ASSERT_NE(sewer, nullptr);
-    for (const auto& manhole : sewer->GetNodes()) EXPECT_TRUE(Data::CManholeManager::HasManhole(manhole.get()));
+    for (const auto& manhole : sewer->GetNodes()) EXPECT_NE(manhole->GetValue(L"manhole_depth"), nullptr);
     EXPECT_NE(sewer->GetDataConfiguration().GetDefinition(L"sections.invert_end"), nullptr);
     const Data::CCatalog* catalog = Data::CCatalogManager::Instance()->GetCatalog(L"ASSEMBLYSCHEMES_CATALOG", error);
     ASSERT_NE(catalog, nullptr) << error;
@@ -132,22 +128,4 @@ TEST_F(CDemoWorkspaceTest, TheSqlite3ProgramSeesTheFeatureLayers) {
     EXPECT_EQ(Sqlite3(store, "PRAGMA integrity_check"), "ok\n");
     EXPECT_EQ(Sqlite3(store, "SELECT count(*) FROM gpkg_contents WHERE data_type = 'features' AND srs_id = 3765"),
               "4\n");
-}
-
-TEST_F(CDemoWorkspaceTest, ManholeViewsOfADemoManholeAndNoneForAJunction) {
-    AcDbDatabase db;
-    acdbHostApplicationServices()->setWorkingDatabase(&db);
-    auto* components = ManholeScheme::CMSManager::Instance();
-    const auto front = components->GetComponentById(ManholeScheme::CMSManager::kFrontViewId);
-    const auto top = components->GetComponentById(ManholeScheme::CMSManager::kTopViewId);
-    AcDbObjectIdArray ids;
-    EXPECT_EQ(Data::CManholeManager::DrawFrontView(Network(2)->GetNodeByName(L"RO-3"), front.get(), ids),
-              Data::mdrDrawn);
-    const int side = ids.length();
-    EXPECT_EQ(Data::CManholeManager::DrawTopView(Network(2)->GetNodeByName(L"RO-3"), top.get(), ids), Data::mdrDrawn);
-    EXPECT_GT(side, 20);
-    EXPECT_GT(ids.length(), side + 20);
-    EXPECT_EQ(Data::CManholeManager::DrawFrontView(Network(1)->GetNodeByName(L"Č-1"), front.get(), ids),
-              Data::mdrNoManhole);
-    acdbHostApplicationServices()->setWorkingDatabase(nullptr);
 }

@@ -32,12 +32,7 @@ TEST(CEntity, NewEntitiesHaveAGuidAndNeutralOperations) {
     EXPECT_EQ(entity.GetXML(), L"<entity guid=\"{A&amp;B}\" type=\"1\"/>");
     EXPECT_TRUE(entity.GetHandle().empty());
     EXPECT_EQ(entity.GetGeosGeometry(), nullptr);
-    EXPECT_EQ(entity.MoveTo(AcGePoint3d(1, 2, 3)), 0);
-    EXPECT_EQ(entity.Mark(1, nullptr), 0);
-    EXPECT_EQ(entity.DrawCheckMark(), 0);
-    EXPECT_EQ(entity.WriteDataAsEED(), 0);
-    AcDbExtents extents;
-    EXPECT_EQ(entity.GetExtents(extents), 0);
+    EXPECT_EQ(entity.MoveTo(AcGePoint3d(1, 2, 3)) + entity.Mark(1, nullptr) + entity.WriteDataAsEED(), 0);
 }
 
 TEST(CEntity, TheHandleIsTheDataHoldersInHexadecimal) {
