@@ -134,10 +134,12 @@ void CSchemeListing::PrintTable(const CASInstanceStorage& storage, std::ostream&
             << "  base point " << Number(base.x) << ", " << Number(base.y) << ", " << Number(base.z) << "  size "
             << Number(sheet->GetWidth()) << " x " << Number(sheet->GetHeight()) << '\n'
             << "  entities:";
-        if (sheet->GetComponentEntities().empty()) out << " none";
-        for (const auto& [componentId, ids] : sheet->GetComponentEntities())
-            out << ' ' << Utf8(componentId) << ' ' << ids->length();
-        out << '\n';
+        const char* separator = " ";
+        for (const auto& [componentId, ids] : sheet->GetComponentEntities()) {
+            out << separator << Utf8(componentId) << ' ' << ids->length();
+            separator = ", ";
+        }
+        out << (sheet->GetComponentEntities().empty() ? " none\n" : "\n");
         if (sheet->GetElementInstances().empty()) {
             out << "  elements: none\n";
         } else {
