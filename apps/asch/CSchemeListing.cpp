@@ -29,7 +29,9 @@ std::string Number(double value) {
     return text.str();
 }
 
-void Text(Writer& json, const std::string& text) { json.String(text.c_str(), static_cast<rapidjson::SizeType>(text.size())); }
+void Text(Writer& json, const std::string& text) {
+    json.String(text.c_str(), static_cast<rapidjson::SizeType>(text.size()));
+}
 void Text(Writer& json, const std::wstring& text) { Text(json, Utf8(text)); }
 void Key(Writer& json, const char* key) { json.Key(key); }
 

@@ -84,7 +84,8 @@ void CASInstance::WriteComponentInternalData(const AcDbObjectIdArray* ids, Syste
         CDataRW::Write(entity.get(), CDDCache::GetGuid(), GetGuid());
         CDataRW::Write(entity.get(), CDDCache::GetASInternalTag(), static_cast<int>(eComponentEntity));
         CDataRW::Write(entity.get(), CDDCache::GetASComponentId(), componentId);
-        if (writeEntityType) CDataRW::Write(entity.get(), CDDCache::GetEntityType(), static_cast<int>(etAssemblyScheme));
+        if (writeEntityType)
+            CDataRW::Write(entity.get(), CDDCache::GetEntityType(), static_cast<int>(etAssemblyScheme));
     }
 }
 
@@ -116,7 +117,8 @@ void CASInstance::DeserializeSheetEntity(CXimoCEntityPtr& entity, CASAudit* audi
     const AcDbObjectId id = entity.objectId();
     int tag = 0;
     if (!CASEntityAttributes::ReadInt(entity.get(), CDDCache::GetASInternalTag(), tag, audit)) {
-        if (audit) audit->Add(aacMissingInternalTag, id, L"entity of sheet " + GetGuid() + L" has no internal tag; skipped");
+        if (audit)
+            audit->Add(aacMissingInternalTag, id, L"entity of sheet " + GetGuid() + L" has no internal tag; skipped");
         return;
     }
     switch (tag) {
@@ -125,8 +127,9 @@ void CASInstance::DeserializeSheetEntity(CXimoCEntityPtr& entity, CASAudit* audi
             if (const auto* point = dynamic_cast<const AcDbPoint*>(entity.get())) {
                 m_basePoint = point->position();
             } else if (audit) {
-                audit->Add(aacBasePointNotAPoint, id, std::wstring(L"base point entity of sheet ") + GetGuid() +
-                                                          L" is " + entity->isA() + L", not a point; base point not read");
+                audit->Add(aacBasePointNotAPoint, id,
+                           L"base point entity of sheet " + GetGuid() + L" is " + entity->isA() +
+                               L", not a point; base point not read");
             }
             break;
         case eSecondGeneralEntity: m_secondEntity = id; break;

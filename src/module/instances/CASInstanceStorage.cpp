@@ -101,7 +101,8 @@ void CASInstanceStorage::AuditScanned(const std::vector<std::wstring>& seen) {
                         L"sheet " + guid + L" has no general entity with its definition and size; listed without them");
         }
         for (const auto& [elementId, element] : instance.GetElementInstances()) {
-            const AcDbObjectId some = element->GetObjects()->isEmpty() ? AcDbObjectId() : element->GetObjects()->first();
+            const AcDbObjectIdArray& objects = *element->GetObjects();
+            const AcDbObjectId some = objects.isEmpty() ? AcDbObjectId() : objects.first();
             if (element->GetEntityHolder().isNull()) {
                 m_audit.Add(aacNoDataHolder, some,
                             L"element " + elementId + L" of sheet " + guid + L" has no data holder; counts as ignored");

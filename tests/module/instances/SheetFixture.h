@@ -1,7 +1,5 @@
 #pragma once
-// A new drawing document for each test, and sheets drawn into it the way the scheme editor draws
-// them: corner points and a frame as the general entities, entities of a few components, and
-// elements whose entities are also recorded under the scheme component.
+// A new drawing document for each test, and sheets drawn into it as the scheme editor draws them.
 
 #include "module/instances/CASElementInstance.h"
 #include "module/instances/CASInstance.h"
@@ -13,7 +11,6 @@
 #include <gtest/gtest.h>
 
 #include <boost/make_shared.hpp>
-#include <boost/shared_ptr.hpp>
 
 namespace XimoGis::AssemblySchemes::Testing {
 
@@ -26,9 +23,13 @@ protected:
     }
     void TearDown() override { acDocManager->closeDocument(document); }
 
-    // A 420 x 297 sheet of definition {DEF-A3} for node {NODE-7} at `base`, written for `system`:
-    // a point at the base point (tag 1), one at the upper corner (tag 2), the frame polyline
-    // (tag 4), two frame lines ("00FRAME") and a bill-of-materials text ("04BOM").
+    static AcDbObjectId Line(const AcGePoint3d& base, double x1, double y1, double x2, double y2) {
+        return CXimoCDraw::line(base + AcGeVector3d(x1, y1, 0), base + AcGeVector3d(x2, y2, 0)).objectId();
+    }
+
+    // A 420 x 297 sheet of definition {DEF-A3} written for `system`: points at the base point
+    // (tag 1) and the upper corner (tag 2), the frame polyline (tag 4), two "00FRAME" lines and a
+    // "04BOM" text.
     boost::shared_ptr<CASInstance> DrawSheet(System::CGisSystem* system, const AcGePoint3d& base,
                                              const wchar_t* node = L"{NODE-7}") {
         auto sheet = boost::make_shared<CASInstance>();
@@ -49,26 +50,20 @@ protected:
         return sheet;
     }
 
-    // An element of a catalog item at (x, y) of the sheet: a circle that holds its data and a
-    // line, recorded under "01SCHEME" too (the scheme component lists exactly the element
-    // entities); the sheet is written again for `system`.
+    // An element at (x, y) of the sheet: a circle holding its data and a line, also listed under
+    // "01SCHEME" (which lists exactly the element entities); the sheet is written again.
     boost::shared_ptr<CASElementInstance> AddElement(CASInstance& sheet, System::CGisSystem* system,
                                                      const wchar_t* catalog, const wchar_t* provider, double x,
                                                      double y) {
         AcGePoint3d base;
         sheet.GetBasePoint(base);
-        const AcGePoint3d at(base.x + x, base.y + y, 0);
-        const AcDbObjectId holder = CXimoCDraw::circle(at, 4.0).objectId();
+        const AcDbObjectId holder = CXimoCDraw::circle(base + AcGeVector3d(x, y, 0), 4.0).objectId();
         CASElementInstance::MarkAsDataHolder(holder);
-        const AcDbObjectIdArray ids{holder, CXimoCDraw::line(at, at + AcGeVector3d(10, 0, 0)).objectId()};
+        const AcDbObjectIdArray ids{holder, Line(base, x, y, x + 10, y)};
         auto element = sheet.CreateElementInstance(provider, catalog, ids);
         sheet.AddDrawnByComponent(L"01SCHEME", ids);
         sheet.Serialize(system);
         return element;
-    }
-
-    static AcDbObjectId Line(const AcGePoint3d& base, double x1, double y1, double x2, double y2) {
-        return CXimoCDraw::line(base + AcGeVector3d(x1, y1, 0), base + AcGeVector3d(x2, y2, 0)).objectId();
     }
 
     AcApDocument* document = nullptr;
