@@ -20,8 +20,8 @@ public:
 
     // The drawing file, the first argument after the command; required.
     CAschArguments& AddDrawing(const char* help = "the drawing, a DXF file");
-    // A further word in its place after the command (after the drawing, when there is one), e.g.
-    // the action and folder of "asch workspace init DIR"; `name` also names it in messages.
+    // A further word in its place after the command (after the drawing, when there is one), in the
+    // order of declaration, e.g. "asch workspace init DIR"; `name` also names it in messages.
     CAschArguments& AddPositional(const char* name, const char* help, bool required = true);
     // "--workspace W": the folder of a workspace; required when asked for.
     CAschArguments& AddWorkspace(bool required = true);
