@@ -227,7 +227,7 @@ TEST_F(CDataRWDxfTest, EzdxfSeesTheAttributesAsExtendedData) {
         GTEST_SKIP() << "ezdxf is not installed for /usr/bin/python3 (scripts/setup.sh installs python3-ezdxf)";
     const std::filesystem::path file = folder.Path() / "attributes.dxf";
     ASSERT_EQ(db.dxfOut(file.wstring().c_str()), Acad::eOk);
-    const std::string command = "/usr/bin/python3 '" XIMO_SOURCE_DIR "/tests/host/dxf/dxf_inspect.py' '" +
+    const std::string command = "/usr/bin/python3 '" XIMO_SOURCE_DIR "/tests/host/dxf/dxf_read_back.py' '" +
                                 file.string() + "' > '" + (folder.Path() / "xdata.json").string() + "'";
     ASSERT_EQ(std::system(command.c_str()), 0);
     rapidjson::Document json;

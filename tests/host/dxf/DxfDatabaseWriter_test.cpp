@@ -96,7 +96,7 @@ TEST(DxfDatabaseWriter, AnIndependentReaderFindsNoErrorsAndTheSameExtendedData) 
     const auto db = makeDxfTestDrawing();
     ASSERT_EQ(db->dxfOut(file.wstring().c_str()), Acad::eOk);
 
-    const std::string script = XIMO_SOURCE_DIR "/tests/host/dxf/dxf_inspect.py";
+    const std::string script = XIMO_SOURCE_DIR "/tests/host/dxf/dxf_read_back.py";
     const std::string json = run(std::string(kPython) + " " + script + " '" + file.string() + "'");
     rapidjson::Document report;
     ASSERT_FALSE(report.Parse(json.c_str()).HasParseError()) << json;

@@ -226,7 +226,7 @@ TEST_F(InstanceTest, ASheetSavedToDxfReadsBackFieldForFieldInAFreshProcessAndInE
     EXPECT_EQ(ignored->GetElementNumber(), 2);
 
     if (std::system("/usr/bin/python3 -c 'import ezdxf' 2>/dev/null") != 0) GTEST_SKIP() << "no ezdxf";
-    ASSERT_EQ(std::system(("/usr/bin/python3 '" XIMO_SOURCE_DIR "/tests/host/dxf/dxf_inspect.py' '" + file + "' > '" +
+    ASSERT_EQ(std::system(("/usr/bin/python3 '" XIMO_SOURCE_DIR "/tests/host/dxf/dxf_read_back.py' '" + file + "' > '" +
                            file + ".json'").c_str()), 0);
     rapidjson::Document dxf;
     dxf.Parse(folder.Read("sheet.dxf.json").c_str());

@@ -2,7 +2,7 @@
 """Reads a DXF file with ezdxf, an independent DXF library, and prints as JSON what the host's
 tests compare: the errors ezdxf's audit finds and the extended data of every entity by handle.
 
-Usage: dxf_inspect.py FILE
+Usage: dxf_read_back.py FILE
 Output: {"errors": [...], "xdata": {"HANDLE": [[app, [[code, value], ...]], ...]}}
 Text values have their \\U+XXXX escapes resolved; points are [x, y, z].
 """
