@@ -26,8 +26,9 @@ public:
     CAschArguments& AddOutput(const char* help);
     // "--window X1,Y1,X2,Y2": a rectangle in drawing coordinates; optional.
     CAschArguments& AddWindow();
-    // A word after the command, in the order of declaration ("asch definitions show ID").
-    CAschArguments& AddPositional(const char* name, const char* help, bool required);
+    // A word after the command, in the order of declaration ("asch definitions show ID",
+    // "asch workspace init DIR"); `name` also names it in messages.
+    CAschArguments& AddPositional(const char* name, const char* help, bool required = true);
     // The command's own options.
     boost::program_options::options_description_easy_init AddOptions();
 

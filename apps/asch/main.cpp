@@ -9,7 +9,9 @@
 #include "CDefinitionsCommand.h"
 #include "CDemoCommand.h"
 #include "CInfoCommand.h"
+#include "CManholeCommand.h"
 #include "CRenderCommand.h"
+#include "CWorkspaceCommand.h"
 
 int main(int argc, char** argv) {
     using namespace XimoGis::Asch;
@@ -18,5 +20,7 @@ int main(int argc, char** argv) {
     registry.Register(std::make_unique<CDemoCommand>());
     registry.Register(std::make_unique<CInfoCommand>());
     registry.Register(std::make_unique<CRenderCommand>());
+    registry.Register(std::make_unique<CWorkspaceCommand>());
+    registry.Register(std::make_unique<CManholeCommand>());
     return registry.Run(std::vector<std::string>(argv + 1, argv + argc), std::cout, std::cerr);
 }

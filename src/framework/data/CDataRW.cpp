@@ -1,6 +1,8 @@
 #include "framework/data/CDataRW.h"
 
 #include "framework/data/CDDCache.h"
+#include "framework/data/CDataDefinition.h"
+#include "framework/topology/CNetworkEntity.h"
 #include "host/database/AcDbDatabase.h"
 
 namespace XimoGis::Data {
@@ -87,6 +89,20 @@ bool CDataRW::Read(AcDbObjectId id, const std::wstring& attributeName, CDataBox&
 
 bool CDataRW::Read(AcDbObjectId id, int attributeId, CDataBox& value) {
     return Read(id, CDDCache::GetAttributeName(attributeId), value);
+}
+
+bool CDataRW::Read(const Topology::CNetworkEntity* entity, const CDataDefinition* definition, CDataBox& value) {
+    value.SetNull();
+    if (!entity || !definition) return false;
+    const enmDataTarget target = entity->GetEntityType() == etSection ? enmDataTarget::Section : enmDataTarget::Node;
+    if (definition->GetTarget() != target) return false;
+    if (definition->GetColumn() == L"name") {
+        if (!entity->GetName().empty()) value = CDataBox(entity->GetName());
+    } else if (const CDataBox* stored = entity->GetValue(definition->GetColumn())) {
+        value = *stored;
+        definition->Coerce(value);
+    }
+    return true;
 }
 
 }  // namespace XimoGis::Data

@@ -11,7 +11,13 @@
 #include "framework/data/CDataBox.h"
 #include "host/entities/AcDbEntity.h"
 
+namespace XimoGis::Topology {
+class CNetworkEntity;
+}
+
 namespace XimoGis::Data {
+
+class CDataDefinition;
 
 class CDataRW {
 public:
@@ -30,6 +36,12 @@ public:
     static bool Read(const AcDbEntity* entity, const std::wstring& attributeName, CDataBox& value);
     static bool Read(AcDbObjectId id, int attributeId, CDataBox& value);
     static bool Read(AcDbObjectId id, const std::wstring& attributeName, CDataBox& value);
+
+    // Reads a network node's or section's value of a data definition into `value`, typed as the
+    // definition's column. True when the entity has that data; `value` is then the value, or null
+    // when the entity holds none. False, with `value` null, for a missing entity or definition or
+    // a definition of the other layer.
+    static bool Read(const Topology::CNetworkEntity* entity, const CDataDefinition* definition, CDataBox& value);
 };
 
 }  // namespace XimoGis::Data

@@ -6,6 +6,8 @@ namespace XimoGis {
 
 enum enmEntityType : int {
     etUndefined = 0,
+    etNode = 1,                // a node of a network's topology
+    etSection = 2,             // a section (pipe) of a network's topology
     etAssemblyScheme = 256,   // an entity of a drawn assembly scheme sheet
     etAssemblyElement = 512,  // an entity of an element drawn into a scheme
 };

@@ -59,6 +59,13 @@ CStatement& CStatement::BindNull(int index) {
     return *this;
 }
 
+CStatement& CStatement::BindBlob(int index, const std::string& bytes) {
+    if (m_stmt)
+        CheckBind(sqlite3_bind_blob(m_stmt, index, bytes.data(), static_cast<int>(bytes.size()), SQLITE_TRANSIENT),
+                  index);
+    return *this;
+}
+
 bool CStatement::Next() {
     if (!IsValid()) {
         m_failed = true;
@@ -104,6 +111,22 @@ std::string CStatement::GetUtf8(int column) const {
     const auto* text = reinterpret_cast<const char*>(sqlite3_column_text(m_stmt, column));
     if (!text) return {};
     return std::string(text, static_cast<size_t>(sqlite3_column_bytes(m_stmt, column)));
+}
+
+std::string CStatement::GetBlob(int column) const {
+    const auto* bytes = static_cast<const char*>(sqlite3_column_blob(m_stmt, column));
+    if (!bytes) return {};
+    return std::string(bytes, static_cast<size_t>(sqlite3_column_bytes(m_stmt, column)));
+}
+
+char CStatement::GetStorageClass(int column) const {
+    switch (sqlite3_column_type(m_stmt, column)) {
+        case SQLITE_INTEGER: return 'i';
+        case SQLITE_FLOAT: return 'r';
+        case SQLITE_TEXT: return 't';
+        case SQLITE_BLOB: return 'b';
+        default: return 'n';
+    }
 }
 
 }  // namespace XimoGis::Workspace

@@ -28,6 +28,8 @@ public:
     CStatement& Bind(int index, const std::wstring& value);  // stored as UTF-8 text
     CStatement& Bind(int index, const std::string& utf8);
     CStatement& BindNull(int index);
+    // Bytes kept as they are (a geometry, for instance).
+    CStatement& BindBlob(int index, const std::string& bytes);
 
     // Steps to the next row: true while there is one. After false, Failed() tells an error
     // apart from the end of the rows.
@@ -44,6 +46,9 @@ public:
     double GetDouble(int column) const;
     std::wstring GetText(int column) const;
     std::string GetUtf8(int column) const;
+    std::string GetBlob(int column) const;
+    // 'i' integer, 'r' real, 't' text, 'b' blob, 'n' null: the value's own storage class.
+    char GetStorageClass(int column) const;
 
 private:
     void CheckBind(int rc, int index);

@@ -1,0 +1,22 @@
+#pragma once
+// "asch manhole DIR NODE -o OUT": draws the side and top view of a node's manhole from a
+// workspace (the active system's network unless --system says otherwise) into a new drawing and
+// writes it as DXF (OUT ending in .dxf) or as an SVG picture. A node without a manhole is a
+// failure that names the node; it is also written to the workspace's message log.
+
+#include "IAschCommand.h"
+
+namespace XimoGis::Asch {
+
+class CManholeCommand : public IAschCommand {
+public:
+    std::string GetName() const override { return "manhole"; }
+    std::string GetSummary() const override { return "draw a node's manhole, side and top view"; }
+    std::string GetSynopsis() const override {
+        return "asch manhole DIR NODE -o OUT.svg|OUT.dxf [--system ID] [--scale S]";
+    }
+    void DescribeArguments(CAschArguments& arguments) const override;
+    int Run(const CAschArguments& arguments, CAschConsole& console) const override;
+};
+
+}  // namespace XimoGis::Asch
