@@ -25,6 +25,14 @@ double CFittingModel::AddFlange(const AcGePoint3d& face, const AcGeVector3d& nor
     return flange.thickness;
 }
 
+std::pair<AcGePoint3d, AcGePoint3d> CFittingModel::AddFlangedRun(double length, double dn, double endDn, double pn) {
+    const AcGeVector3d x = AcGeVector3d::kXAxis;
+    const AcGePoint3d end = AcGePoint3d::kOrigin + x * length;
+    const double first = AddFlange(AcGePoint3d::kOrigin, -x, dn, pn);
+    const double last = AddFlange(end, x, endDn, pn);
+    return {AcGePoint3d::kOrigin + x * first, end - x * last};
+}
+
 AcGePoint3d CFittingModel::AddBend(const AcGePoint3d& start, const AcGeVector3d& direction,
                                    const AcGeVector3d& towards, double radius, double angle, double diameter) {
     CBendPart bend;

@@ -8,6 +8,7 @@
 
 #include "host/geometry/AcGePoint3d.h"
 
+#include <utility>
 #include <vector>
 
 namespace XimoGis::AssemblySchemes::Fittings {
@@ -47,6 +48,9 @@ public:
     // thickness of 0 takes the standard one. Returns the thickness used.
     double AddFlange(const AcGePoint3d& face, const AcGeVector3d& normal, double dn, double pn,
                      double thickness = 0.0, bool joint = true);
+    // The flanges of a straight run along +X: one of `dn` at the origin facing -X, one of `endDn`
+    // at `length` facing +X. Returns where the barrel between them starts and ends.
+    std::pair<AcGePoint3d, AcGePoint3d> AddFlangedRun(double length, double dn, double endDn, double pn);
     // A bend of `angle` radians from `start` in `direction`, turning towards `towards` (square
     // to `direction`). Returns the point where it ends.
     AcGePoint3d AddBend(const AcGePoint3d& start, const AcGeVector3d& direction, const AcGeVector3d& towards,

@@ -1,5 +1,6 @@
 #include "fittings/CFittingProvider.h"
 
+#include "fittings/CFittingDimensions.h"
 #include "fittings/CFittingProjection.h"
 #include "fittings/CFittingSketch.h"
 
@@ -15,6 +16,12 @@ CFittingProvider::CFittingProvider(const wchar_t* providerId, enmAssemblyElement
 bool CFittingProvider::Require(bool condition, const std::wstring& text, std::wstring& problem) {
     if (!condition) problem = text;
     return condition;
+}
+
+bool CFittingProvider::RequireRoomForFlanges(const CFittingData& data, double endDn, std::wstring& problem) {
+    const double flanges =
+        CFittingDimensions::GetFlangeThickness(data.dn) + CFittingDimensions::GetFlangeThickness(endDn);
+    return Require(data.length > flanges, L"AS_LENGTH is not longer than the two flanges", problem);
 }
 
 int CFittingProvider::CheckCatalogItem(const Data::CCatalogItem* item, std::wstring& problem) const {

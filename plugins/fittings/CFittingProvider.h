@@ -37,8 +37,10 @@ protected:
     // Data of a typical item, from which the supported views are found.
     virtual CFittingData GetTypicalData() const = 0;
 
-    // Problem texts shared by the providers.
+    // True when `condition` holds, else false with `text` as the problem.
     static bool Require(bool condition, const std::wstring& text, std::wstring& problem);
+    // Whether the length leaves room for the flanges of a straight run of the DN and `endDn`.
+    static bool RequireRoomForFlanges(const CFittingData& data, double endDn, std::wstring& problem);
 
 private:
     std::wstring m_description;

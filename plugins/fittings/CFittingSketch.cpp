@@ -65,7 +65,8 @@ bool CFittingSketch::Draw(const AcGePoint3d& at, double scale, AcArray<AcDbObjec
         CXimoCEntityPtr entity = CXimoCDraw::line(place(line.start), place(line.end));
         ok = keep(entity) && (!line.flangeFace || MarkFlangeFace(*entity.get(), line.dn, line.pn));
     }
-    for (const Circle& circle : m_circles) ok = ok && keep(CXimoCDraw::circle(place(circle.centre), circle.radius * scale));
+    for (const Circle& circle : m_circles)
+        ok = ok && keep(CXimoCDraw::circle(place(circle.centre), circle.radius * scale));
     for (const Arc& arc : m_arcs)
         ok = ok && keep(CXimoCDraw::arc(place(arc.centre), arc.radius * scale, arc.startAngle, arc.endAngle));
     for (const Polyline& polyline : m_polylines) {

@@ -8,24 +8,21 @@ namespace XimoGis::AssemblySchemes::Fittings {
 
 const wchar_t* const CGateValveProvider::kProviderId = L"FITTING_GATEVALVE";
 
-CGateValveProvider::CGateValveProvider() : CFittingProvider(kProviderId, eAssemblyElementValve, L"Flanged gate valve") {}
+CGateValveProvider::CGateValveProvider()
+    : CFittingProvider(kProviderId, eAssemblyElementValve, L"Flanged gate valve") {}
 
 bool CGateValveProvider::CheckData(const CFittingData& data, std::wstring& problem) const {
-    return Require(data.length > 2.0 * CFittingDimensions::GetFlangeThickness(data.dn),
-                   L"AS_LENGTH is not longer than the two flanges", problem);
+    return RequireRoomForFlanges(data, data.dn, problem);
 }
 
 void CGateValveProvider::BuildModel(const CFittingData& data, CFittingModel& model) const {
-    const AcGeVector3d x = AcGeVector3d::kXAxis;
     const AcGeVector3d z = AcGeVector3d::kZAxis;
-    const AcGePoint3d end(data.length, 0.0, 0.0);
     const AcGePoint3d middle(data.length / 2.0, 0.0, 0.0);
-    const double first = model.AddFlange(AcGePoint3d::kOrigin, -x, data.dn, data.pn);
-    const double last = model.AddFlange(end, x, data.dn, data.pn);
+    const auto [start, end] = model.AddFlangedRun(data.length, data.dn, data.dn, data.pn);
     // The valve symbol: two cones as wide as most of the flange, tip to tip in the middle.
     const double body = 0.8 * CFittingDimensions::GetFlangeDiameter(data.dn, data.pn);
-    model.AddTube(AcGePoint3d::kOrigin + x * first, middle, body, 0.0);
-    model.AddTube(middle, end - x * last, 0.0, body);
+    model.AddTube(start, middle, body, 0.0);
+    model.AddTube(middle, end, 0.0, body);
     // The spindle rises as high as the body is wide; the handwheel is three quarters of that.
     const double spindle = std::max(0.1 * body, 8.0);
     const AcGePoint3d top = middle + z * body;

@@ -12,17 +12,12 @@ CReducerProvider::CReducerProvider()
 bool CReducerProvider::CheckData(const CFittingData& data, std::wstring& problem) const {
     return Require(data.outletDn > 0.0 && data.outletDn < data.dn,
                    L"AS_CATALOGNUM names no outlet smaller than AS_NOMINALDIAMETER", problem) &&
-           Require(data.length > CFittingDimensions::GetFlangeThickness(data.dn) +
-                                     CFittingDimensions::GetFlangeThickness(data.outletDn),
-                   L"AS_LENGTH is not longer than the two flanges", problem);
+           RequireRoomForFlanges(data, data.outletDn, problem);
 }
 
 void CReducerProvider::BuildModel(const CFittingData& data, CFittingModel& model) const {
-    const AcGeVector3d x = AcGeVector3d::kXAxis;
-    const AcGePoint3d end(data.length, 0.0, 0.0);
-    const double first = model.AddFlange(AcGePoint3d::kOrigin, -x, data.dn, data.pn);
-    const double last = model.AddFlange(end, x, data.outletDn, data.pn);
-    model.AddTube(AcGePoint3d::kOrigin + x * first, end - x * last, CFittingDimensions::GetPipeDiameter(data.dn),
+    const auto [start, end] = model.AddFlangedRun(data.length, data.dn, data.outletDn, data.pn);
+    model.AddTube(start, end, CFittingDimensions::GetPipeDiameter(data.dn),
                   CFittingDimensions::GetPipeDiameter(data.outletDn));
 }
 

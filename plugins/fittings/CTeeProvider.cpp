@@ -18,15 +18,12 @@ bool CTeeProvider::CheckData(const CFittingData& data, std::wstring& problem) co
 }
 
 void CTeeProvider::BuildModel(const CFittingData& data, CFittingModel& model) const {
-    const AcGeVector3d x = AcGeVector3d::kXAxis;
     const AcGeVector3d y = AcGeVector3d::kYAxis;
     const double outlet = data.outletDn > 0.0 ? data.outletDn : data.dn;
     const double run = CFittingDimensions::GetPipeDiameter(data.dn);
     const double branch = CFittingDimensions::GetPipeDiameter(outlet);
-    const AcGePoint3d end(data.length, 0.0, 0.0);
-    const double first = model.AddFlange(AcGePoint3d::kOrigin, -x, data.dn, data.pn);
-    const double last = model.AddFlange(end, x, data.dn, data.pn);
-    model.AddTube(AcGePoint3d::kOrigin + x * first, end - x * last, run, run);
+    const auto [start, end] = model.AddFlangedRun(data.length, data.dn, data.dn, data.pn);
+    model.AddTube(start, end, run, run);
 
     // The branch starts where it meets the run's outline and is at least a quarter of its own
     // diameter long between the run and its flange.

@@ -76,13 +76,14 @@ bool CASDemoElements::WriteBlockFiles(const std::wstring& workspaceFolder, std::
     CASPluginLoader::LoadPlugins(folder + kInstallFolder);
     const auto catalog = Data::CCatalogXml::Read(Demo::CDemoCatalog::GetSourceFile(), error);
     if (!catalog) return false;
-    for (const wchar_t* id : {kGateValveId, kTeeId, kReducerId}) {
+    const std::pair<const wchar_t*, bool> items[] = {{kGateValveId, true}, {kTeeId, true}, {kReducerId, false}};
+    for (const auto& [id, nameFiles] : items) {
         Data::CCatalogItem* item = catalog->GetItem(id);
         if (!item) {
             error = L"The demo catalog has no item " + std::wstring(id);
             return false;
         }
-        if (!WriteItemBlocks(folder + kBlockFolder, *item, id != kReducerId, error)) return false;
+        if (!WriteItemBlocks(folder + kBlockFolder, *item, nameFiles, error)) return false;
     }
     // Into the store through a file, as catalogs travel between workspaces.
     const std::wstring file = folder + L"demo-catalog.xml";

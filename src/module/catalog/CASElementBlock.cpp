@@ -36,8 +36,8 @@ std::wstring CASElementBlock::FindFile(const std::wstring& folder, enmViewDirect
     const std::wstring file = folder + name;
     if (Utility::CUtility::FileExists(file)) return file;
     if (error) {
-        *error = L"No block file \"" + file + L"\" for the " + GetViewDirectionName(view) + L" view of catalog item \"" +
-                 item->GetName() + L"\" (" + item->GetId() + L")";
+        *error = L"No block file \"" + file + L"\" for the " + GetViewDirectionName(view) +
+                 L" view of catalog item \"" + item->GetName() + L"\" (" + item->GetId() + L")";
     }
     return {};
 }

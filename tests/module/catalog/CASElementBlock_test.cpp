@@ -35,7 +35,8 @@ protected:
 
 TEST_F(ElementBlockTest, TheItemsBlockPropertyWinsOverTheNamingRule) {
     EXPECT_EQ(CASElementBlock::FindFile(Folder(), eViewFront, bend, &error), L"");
-    EXPECT_NE(error.find(L"Bends_Q_100_Q-100_4.dxf\" for the front view of catalog item \"Q 100\""), std::wstring::npos);
+    EXPECT_NE(error.find(L"Bends_Q_100_Q-100_4.dxf\" for the front view of catalog item \"Q 100\""),
+              std::wstring::npos);
     folder.Write("Bends_Q_100_Q-100_4.dxf", "");
     EXPECT_EQ(CASElementBlock::FindFile(Folder(), eViewFront, bend), Folder() + L"Bends_Q_100_Q-100_4.dxf");
     bend->GetProperty(L"AS_BLOCK4")->SetValue(L"Bend.DXF");
