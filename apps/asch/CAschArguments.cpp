@@ -20,6 +20,13 @@ CAschArguments& CAschArguments::AddDrawing(const char* help) {
     return *this;
 }
 
+CAschArguments& CAschArguments::AddPositional(const char* name, const char* help, bool required) {
+    m_hidden.add_options()(name, po::value<std::string>(), help);
+    m_positional.add(name, 1);
+    if (required) m_required.emplace_back(name, std::string("no ") + name + " given");
+    return *this;
+}
+
 CAschArguments& CAschArguments::AddWorkspace(bool required) {
     m_options.add_options()("workspace", po::value<std::string>()->value_name("W"), "the workspace folder");
     if (required) m_required.emplace_back("workspace", "no workspace given (--workspace W)");
@@ -35,13 +42,6 @@ CAschArguments& CAschArguments::AddOutput(const char* help) {
 CAschArguments& CAschArguments::AddWindow() {
     m_options.add_options()("window", po::value<std::string>()->value_name("X1,Y1,X2,Y2"),
                             "show only this rectangle of the drawing (drawing coordinates)");
-    return *this;
-}
-
-CAschArguments& CAschArguments::AddPositional(const char* name, const char* help, bool required) {
-    m_hidden.add_options()(name, po::value<std::string>(), help);
-    m_positional.add(name, 1);
-    if (required) m_required.emplace_back(name, std::string("no ") + name + " given");
     return *this;
 }
 

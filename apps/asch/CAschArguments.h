@@ -20,15 +20,15 @@ public:
 
     // The drawing file, the first argument after the command; required.
     CAschArguments& AddDrawing(const char* help = "the drawing, a DXF file");
+    // A further word in its place after the command (after the drawing, when there is one), in the
+    // order of declaration, e.g. "asch workspace init DIR"; `name` also names it in messages.
+    CAschArguments& AddPositional(const char* name, const char* help, bool required = true);
     // "--workspace W": the folder of a workspace; required when asked for.
     CAschArguments& AddWorkspace(bool required = true);
     // "-o PATH" / "--output PATH"; required.
     CAschArguments& AddOutput(const char* help);
     // "--window X1,Y1,X2,Y2": a rectangle in drawing coordinates; optional.
     CAschArguments& AddWindow();
-    // A word after the command, in the order of declaration ("asch definitions show ID",
-    // "asch workspace init DIR"); `name` also names it in messages.
-    CAschArguments& AddPositional(const char* name, const char* help, bool required = true);
     // The command's own options.
     boost::program_options::options_description_easy_init AddOptions();
 

@@ -11,4 +11,8 @@ int CAschConsole::Fail(const std::string& message) {
     return 1;
 }
 
+void CAschConsole::Warn(const std::wstring& message) {
+    m_err << "asch " << m_command << ": " << acutWcharToUtf8(message) << '\n';
+}
+
 }  // namespace XimoGis::Asch

@@ -16,6 +16,8 @@ public:
     // Writes the error line and returns 1, the exit code of a failed operation.
     int Fail(const std::wstring& message);
     int Fail(const std::string& message);
+    // Writes an error-stream line for something that does not stop the command.
+    void Warn(const std::wstring& message);
 
 private:
     std::ostream& m_out;

@@ -10,6 +10,7 @@
 #include "CDefinitionsCommand.h"
 #include "CDemoCommand.h"
 #include "CInfoCommand.h"
+#include "CListCommand.h"
 #include "CManholeCommand.h"
 #include "CRenderCommand.h"
 #include "CWorkspaceCommand.h"
@@ -21,6 +22,7 @@ int main(int argc, char** argv) {
     registry.Register(std::make_unique<CDefinitionsCommand>());
     registry.Register(std::make_unique<CDemoCommand>());
     registry.Register(std::make_unique<CInfoCommand>());
+    registry.Register(std::make_unique<CListCommand>());
     registry.Register(std::make_unique<CRenderCommand>());
     registry.Register(std::make_unique<CWorkspaceCommand>());
     registry.Register(std::make_unique<CManholeCommand>());

@@ -18,7 +18,8 @@ public:
     CDataConfiguration& operator=(const CDataConfiguration&) = delete;
 
     // The definition with this id in the active system's configuration; null when no system is
-    // active, its network cannot be read, or it has no such data.
+    // active, its network cannot be read, or it has no such data. The pointer is valid until the
+    // system's network is read again (see Topology::CTopologyMultiStorage).
     static const CDataDefinition* GetDataDefinitionByID(const std::wstring& id);
 
     // Adds a definition; false (nothing added) when its id is there already.

@@ -8,6 +8,7 @@ enum enmEntityType : int {
     etUndefined = 0,
     etNode = 1,                // a node of a network's topology
     etSection = 2,             // a section (pipe) of a network's topology
+    etSchemeElement = 8,       // an element placed on an assembly scheme, as a framework entity
     etAssemblyScheme = 256,   // an entity of a drawn assembly scheme sheet
     etAssemblyElement = 512,  // an entity of an element drawn into a scheme
 };

@@ -1,7 +1,8 @@
 #pragma once
-// The module's receiver of framework notifications: when a network system or all its entities
-// are about to be deleted, the schemes of the current drawing go too, whichever system it is.
-// Every answer is 1, so the framework always goes on.
+// The module's receiver of framework notifications: when a network system, or all of its
+// entities, are about to be deleted, every scheme of the current drawing is deleted, whichever
+// system is going and whichever system drew the scheme. Every answer is 1, so the framework
+// always goes on.
 
 #include "framework/notification/IFrameworkEventResponder.h"
 
@@ -14,8 +15,8 @@ public:
     int OnBeforeSystemEntitiesDeleted(CGisSystem* system) override;
 
 private:
-    // Drops the schemes of the current drawing from its instance storage. Erasing their entities
-    // from the drawing is the scheme editor's part.
+    // With the current document locked: rescans its drawing for the schemes of every system,
+    // erases each sheet's entities and empties its instance storage.
     static void DeleteASInstances();
 };
 

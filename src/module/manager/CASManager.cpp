@@ -145,6 +145,12 @@ boost::shared_ptr<CASInstanceStorage>& CASManager::GetASIStorage() {
     return storage;
 }
 
+void CASManager::ReloadInstanceStorage() {
+    const boost::shared_ptr<CASInstanceStorage>& storage = GetASIStorage();
+    storage->Clear();
+    storage->ReloadInstanceStorage(nullptr);
+}
+
 CASDefinition* CASManager::DefinitionForEvent(CASInstance* instance, CASDefinition* definition) const {
     return definition ? definition : GetASDefinitionById(instance->GetDefinitionId().c_str());
 }

@@ -69,6 +69,9 @@ public:
     // The instance storage of the host's current document, created on first access, so never
     // empty; it is dropped when its document closes.
     boost::shared_ptr<CASInstanceStorage>& GetASIStorage();
+    // Empties the current document's storage and rescans its drawing for the schemes of every
+    // system.
+    void ReloadInstanceStorage();
     // Nothing to do: instances write themselves onto their entities whenever they change.
     void SaveInstanceStorage() {}
 

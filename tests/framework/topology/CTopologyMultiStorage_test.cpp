@@ -43,7 +43,8 @@ TEST_F(CTopologyMultiStorageTest, ReadsASystemsNetworkOnceAndAgainAfterItChanged
 TEST_F(CTopologyMultiStorageTest, ADamagedOrMissingStoreGivesNoNetworkAndSaysWhy) {
     auto* storages = CTopologyMultiStorage::Instance();
     CSystemManager::Instance()->CloseWorkspace();
-    EXPECT_EQ(storages->GetTopology(system), nullptr);  // a closed workspace; the system is gone too
+    EXPECT_EQ(storages->GetTopology(1), nullptr);  // a closed workspace
+    EXPECT_EQ(storages->GetLastError(), L"No workspace is open");
     ASSERT_TRUE(CSystemManager::Instance()->OpenWorkspace(folder.Text(), error)) << error;
     system = CSystemManager::Instance()->GetSystemById(1);
 

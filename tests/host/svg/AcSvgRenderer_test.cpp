@@ -233,7 +233,8 @@ TEST(AcSvgRenderer, UnequallyScaledCirclesBecomeClosedPaths) {
     AcDbDatabase db;
     const AcDbObjectId block = addBlock(db, L"C", {new AcDbCircle(AcGePoint3d(0, 0, 0), AcGeVector3d::kZAxis, 5)});
     addToModelSpace(db, reference(block, AcGePoint3d(50, 25, 0), AcGeScale3d(2, 1, 1)));
-    const pugi::xml_node circle = byClass(render(db), "circle").first().node();
+    const pugi::xml_document doc = render(db);
+    const pugi::xml_node circle = byClass(doc, "circle").first().node();
     EXPECT_STREQ(circle.name(), "path");
     const std::string d = circle.attribute("d").value();
     EXPECT_EQ(d.rfind("M140 70 L", 0), 0u);  // starts at (50 + 2 * 5, 25)

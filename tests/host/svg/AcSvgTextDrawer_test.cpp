@@ -34,7 +34,8 @@ TEST(AcSvgTextDrawer, PlacesAlignedTextsByTheirAlignmentPointAndStyle) {
     centred->setVerticalMode(AcDb::kTextTop);
     centred->setAlignmentPoint(AcGePoint3d(50, 25, 0));
     svgtest::addToModelSpace(db, centred);
-    const pugi::xml_node text = svgtest::byClass(svgtest::render(db), "text").first().node();
+    const pugi::xml_document doc = svgtest::render(db);
+    const pugi::xml_node text = svgtest::byClass(doc, "text").first().node();
     // Centred on x = 50, base line one height below y = 25; the style's width factor narrows the
     // glyphs, and the length they are fitted to is the host's measure before narrowing.
     EXPECT_STREQ(text.attribute("transform").value(), "matrix(0.5 0 0 1 120 74)");

@@ -149,6 +149,9 @@ TEST_F(ManagerTest, EachDocumentHasItsOwnStorageEmptiedWhenASystemGoes) {
     storage->AddASInstance(boost::make_shared<CASInstance>());
     manager->SaveInstanceStorage();
     EXPECT_EQ(manager->GetASIStorage()->GetASRegistry().size(), 1u);
+    manager->ReloadInstanceStorage();  // cleared first: the drawing holds no sheet
+    EXPECT_TRUE(storage->GetASRegistry().empty());
+    storage->AddASInstance(boost::make_shared<CASInstance>());
     ASSERT_EQ(acDocManager->appContextNewDocument(), Acad::eOk);
     EXPECT_TRUE(manager->GetASIStorage()->GetASRegistry().empty());
     acDocManager->closeDocument(acDocManager->curDocument());
