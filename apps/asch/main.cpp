@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "CAschCommandRegistry.h"
+#include "CCatalogCommand.h"
 #include "CDefinitionsCommand.h"
 #include "CDemoCommand.h"
 #include "CInfoCommand.h"
@@ -17,6 +18,7 @@
 int main(int argc, char** argv) {
     using namespace XimoGis::Asch;
     CAschCommandRegistry registry;
+    registry.Register(std::make_unique<CCatalogCommand>());
     registry.Register(std::make_unique<CDefinitionsCommand>());
     registry.Register(std::make_unique<CDemoCommand>());
     registry.Register(std::make_unique<CInfoCommand>());
