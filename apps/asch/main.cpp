@@ -7,7 +7,10 @@
 
 #include "CAschCommandRegistry.h"
 #include "CDefinitionsCommand.h"
+#include "CDeleteCommand.h"
 #include "CDemoCommand.h"
+#include "CDrawCommand.h"
+#include "CGridCommand.h"
 #include "CInfoCommand.h"
 #include "CListCommand.h"
 #include "CManholeCommand.h"
@@ -18,7 +21,10 @@ int main(int argc, char** argv) {
     using namespace XimoGis::Asch;
     CAschCommandRegistry registry;
     registry.Register(std::make_unique<CDefinitionsCommand>());
+    registry.Register(std::make_unique<CDeleteCommand>());
     registry.Register(std::make_unique<CDemoCommand>());
+    registry.Register(std::make_unique<CDrawCommand>());
+    registry.Register(std::make_unique<CGridCommand>());
     registry.Register(std::make_unique<CInfoCommand>());
     registry.Register(std::make_unique<CListCommand>());
     registry.Register(std::make_unique<CRenderCommand>());

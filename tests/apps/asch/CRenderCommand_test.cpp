@@ -3,6 +3,7 @@
 #include <pugixml.hpp>
 
 #include "apps/asch/AschTestSupport.h"
+#include "apps/asch/SchemeCommandSupport.h"
 
 using aschtest::run;
 
@@ -43,4 +44,36 @@ TEST(CRenderCommand, RejectsBadArgumentsAndNamesFiles) {
     const auto flatWindow = run("render a.dxf -o b.svg --window 1,2,1,5");
     EXPECT_EQ(flatWindow.code, 2);
     EXPECT_NE(flatWindow.err.find("no width or no height"), std::string::npos);
+}
+
+namespace {
+
+class RenderScheme : public aschtest::SchemeCommand {
+protected:
+    RenderScheme() : SchemeCommand("render_scheme") {}
+};
+
+}  // namespace
+
+TEST_F(RenderScheme, DrawsOneSheetOfAWorkspaceDrawing) {
+    const auto left = Run("draw", "--definition 'A4 portrait' --at 0,0");
+    const auto right = Run("draw", "--definition 'A3 landscape' --at 300,0");
+    ASSERT_EQ(right.code, 0) << right.err;
+    const auto rendered = run("render " + drawing + " -o '" + folder / "right.svg" + "' --scheme " + SchemeId(right));
+    ASSERT_EQ(rendered.code, 0) << rendered.err;
+    const auto whole = run("render " + drawing + " -o '" + folder / "whole.svg" + "'");
+    pugi::xml_document part, all;
+    ASSERT_TRUE(part.load_file((folder / "right.svg").c_str()));
+    ASSERT_TRUE(all.load_file((folder / "whole.svg").c_str()));
+    // The sheet alone is clipped to its rectangle: wider than high, unlike the two sheets together.
+    EXPECT_TRUE(part.select_node("//clipPath"));
+    const auto ratio = [](const pugi::xml_document& svg) {
+        return svg.child("svg").attribute("width").as_double() / svg.child("svg").attribute("height").as_double();
+    };
+    EXPECT_NEAR(ratio(part), 420.0 / 297.0, 0.05);
+    EXPECT_GT(ratio(all), ratio(part));
+
+    EXPECT_EQ(run("render " + drawing + " -o '" + folder / "x.svg" + "' --scheme {NONE}").err,
+              "asch render: '" + folder / "schemes.dxf" + "' has no scheme sheet {NONE}\n");
+    EXPECT_EQ(run("render " + drawing + " -o x.svg --scheme " + SchemeId(left) + " --window 0,0,1,1").code, 1);
 }

@@ -1,0 +1,230 @@
+#include "module/editor/CASEditor.h"
+
+#include "module/editor/EditorFixture.h"
+
+#include "framework/cad/CXimoCDraw.h"
+#include "framework/topology/CNode.h"
+#include "framework/ui/CProgressBar.h"
+#include "host/entities/AcDbPoint.h"
+#include "host/entities/AcDbPolyline.h"
+
+#include <algorithm>
+#include <string>
+#include <vector>
+
+using namespace XimoGis::AssemblySchemes;
+using XimoGis::CXimoCEntityPtr;
+using XimoGis::Topology::CNode;
+
+namespace {
+
+class EditorTest : public Testing::EditorFixture {
+protected:
+    static AcGePoint3d PointAt(AcDbObjectId id) {
+        CXimoCEntityPtr entity(id, AcDb::kForRead);
+        const auto* point = dynamic_cast<const AcDbPoint*>(entity.get());
+        return point ? point->position() : AcGePoint3d(-1, -1, -1);
+    }
+    // Stored sheets by base point (x, y), in storage order.
+    std::vector<std::pair<AcGePoint3d, std::wstring>> Sheets() const {
+        std::vector<std::pair<AcGePoint3d, std::wstring>> sheets;
+        for (const auto& [id, sheet] : manager->GetASIStorage()->GetASRegistry()) {
+            AcGePoint3d base;
+            sheet->GetBasePoint(base);
+            sheets.emplace_back(base, sheet->GetRefNode());
+        }
+        std::sort(sheets.begin(), sheets.end(), [](const auto& a, const auto& b) {
+            return a.first.y != b.first.y ? a.first.y < b.first.y : a.first.x < b.first.x;
+        });
+        return sheets;
+    }
+    static CASEditor::NodeVector Nodes(int count) {
+        CASEditor::NodeVector nodes;
+        for (int i = 0; i < count; ++i)
+            nodes.push_back(boost::make_shared<CNode>(1, L"{N" + std::to_wstring(i) + L"}", L"N", AcGePoint3d()));
+        return nodes;
+    }
+};
+
+}  // namespace
+
+TEST_F(EditorTest, OneSheetHasItsCornerPointsItsPaperFrameAndItsComponentsOnTheirLayers) {
+    auto definition = Definition(210, 297, 1, {L"00FRAME", L"01CMMNT"});
+    definition->GetProperties()->SetPropertyValue(L"ASFLC", 0x10003);  // only the low 16 bits count
+    definition->GetProperties()->SetPropertyValue(L"ASFLLT", L"DASHED");
+    CNode node(1, L"{NODE-1}", L"Č-1", {});
+    AcGePoint3d base(100, 200, 7.5);
+    const auto sheet = editor->Draw(base, definition.get(), &node);
+    ASSERT_TRUE(sheet);
+    EXPECT_EQ(sheet->GetDefinitionId(), definition->GetId());
+    EXPECT_EQ(sheet->GetRefNode(), L"{NODE-1}");
+    EXPECT_EQ(sheet->GetWidth(), 210.0);
+    EXPECT_EQ(sheet->GetHeight(), 297.0);
+
+    EXPECT_EQ(PointAt(sheet->GetId()), AcGePoint3d(100, 200, 7.5));
+    EXPECT_EQ(PointAt(sheet->GetSecondGeneralEntity()), AcGePoint3d(310, 497, 7.5));
+    EXPECT_EQ(LayerOf(sheet->GetId()), L"VOD_SCHEME_NP");
+    EXPECT_EQ(LayerOf(sheet->GetSecondGeneralEntity()), L"VOD_SCHEME_NP");
+
+    // The paper frame lies at z = 0 whatever the base point's elevation.
+    CXimoCEntityPtr entity(sheet->GetThirdGeneralEntity(), AcDb::kForRead);
+    const auto* frame = dynamic_cast<const AcDbPolyline*>(entity.get());
+    ASSERT_NE(frame, nullptr);
+    EXPECT_TRUE(frame->isClosed());
+    EXPECT_EQ(frame->elevation(), 0.0);
+    ASSERT_EQ(frame->numVerts(), 4u);
+    AcGePoint3d corner;
+    frame->getPointAt(2, corner);
+    EXPECT_EQ(corner, AcGePoint3d(310, 497, 0));
+    EXPECT_EQ(frame->colorIndex(), 3);
+    EXPECT_EQ(frame->linetype(), L"DASHED");
+    entity.close();
+    ASSERT_FALSE(editor->GetCollectedEntities().isEmpty());
+    EXPECT_EQ(editor->GetCollectedEntities().last(), sheet->GetThirdGeneralEntity());
+
+    const AcDbObjectIdArray* frameLines = sheet->GetDrawnEntitiesByComponent(L"00FRAME");
+    ASSERT_NE(frameLines, nullptr);
+    EXPECT_EQ(frameLines->length(), 4);
+    EXPECT_EQ(LayerOf(frameLines->first()), L"VOD_FRAME");
+    EXPECT_EQ(sheet->GetDrawnEntitiesByComponent(L"01CMMNT"), nullptr);  // interactive: drawn later
+    // Not stored until the caller does it.
+    EXPECT_TRUE(manager->GetASIStorage()->GetASRegistry().empty());
+}
+
+TEST_F(EditorTest, WithoutThePaperFrameASheetStillHasBothCornerPointsAndReadsBackWhole) {
+    auto definition = Definition(420, 297, 0, {L"00FRAME"});
+    const auto sheet = DrawStored(*definition, {0, 0, 0});
+    EXPECT_TRUE(sheet->GetThirdGeneralEntity().isNull());
+    EXPECT_EQ(PointAt(sheet->GetId()), AcGePoint3d(0, 0, 0));
+    EXPECT_EQ(PointAt(sheet->GetSecondGeneralEntity()), AcGePoint3d(420, 297, 0));
+
+    manager->ReloadInstanceStorage();
+    const auto read = manager->GetASIStorage()->GetASInstanceById(sheet->GetGuid().c_str());
+    ASSERT_TRUE(read);
+    EXPECT_EQ(read->GetDefinitionId(), definition->GetId());
+    EXPECT_EQ(read->GetWidth(), 420.0);
+    EXPECT_EQ(read->GetSecondGeneralEntity(), sheet->GetSecondGeneralEntity());
+    ASSERT_NE(read->GetDrawnEntitiesByComponent(L"00FRAME"), nullptr);
+    EXPECT_EQ(read->GetDrawnEntitiesByComponent(L"00FRAME")->length(), 4);
+    AcGePoint3d origin;
+    EXPECT_FALSE(editor->Draw(origin, nullptr, nullptr));
+}
+
+TEST_F(EditorTest, AGridWithoutNodesDrawsRowsTimesColumnsSheetsUpwardsOnTheSchemeLayer) {
+    auto definition = Definition(210, 297, 1);
+    std::vector<std::string> drawn;
+    XimoGis::UI::CProgressBar::Instance()->SetSink([&](const std::string& text) { drawn.push_back(text); });
+    acedInputScript()->addPick({1000, 500, 0});
+    EXPECT_EQ(editor->Draw(definition.get(), 2, 3, 10.0, 20.0, nullptr), 1);
+    XimoGis::UI::CProgressBar::Instance()->SetSink(nullptr);
+
+    const auto sheets = Sheets();
+    ASSERT_EQ(sheets.size(), 6u);
+    EXPECT_EQ(sheets[0].first, AcGePoint3d(1000, 500, 0));
+    EXPECT_EQ(sheets[2].first, AcGePoint3d(1440, 500, 0));
+    EXPECT_EQ(sheets[3].first, AcGePoint3d(1000, 817, 0));  // the second row lies above the first
+    for (const auto& [base, node] : sheets) EXPECT_TRUE(node.empty());
+    ASSERT_EQ(editor->GetCollectedEntities().length(), 6);
+    for (const AcDbObjectId& frame : editor->GetCollectedEntities()) EXPECT_EQ(LayerOf(frame), L"VOD_SCHEME");
+    ASSERT_FALSE(drawn.empty());
+    EXPECT_EQ(drawn.front().rfind("\rDrawing assembly schemes... [", 0), 0u);
+    EXPECT_NE(std::find_if(drawn.begin(), drawn.end(),
+                           [](const std::string& line) { return line.find("100%") != std::string::npos; }),
+              drawn.end());
+    EXPECT_FALSE(XimoGis::UI::CProgressBar::Instance()->IsVisible());
+
+    // The sheets are stored on the drawing: a rescan finds them.
+    manager->ReloadInstanceStorage();
+    EXPECT_EQ(manager->GetASIStorage()->GetASRegistry().size(), 6u);
+}
+
+TEST_F(EditorTest, AGridGrowsRowsUntilEveryNodeHasItsSheet) {
+    auto definition = Definition(100, 50, 0);
+    auto nodes = Nodes(5);
+    acedInputScript()->addPick({0, 0, 0});
+    ASSERT_EQ(editor->Draw(definition.get(), 1, 2, 0.0, 0.0, &nodes), 1);
+    const auto sheets = Sheets();
+    ASSERT_EQ(sheets.size(), 5u);
+    for (int i = 0; i < 5; ++i) {
+        EXPECT_EQ(sheets[i].first, AcGePoint3d((i % 2) * 100.0, (i / 2) * 50.0, 0)) << i;
+        EXPECT_EQ(sheets[i].second, L"{N" + std::to_wstring(i) + L"}");
+    }
+    auto none = Nodes(0);
+    acedInputScript()->addPick({0, 500, 0});
+    EXPECT_EQ(editor->Draw(definition.get(), 3, 3, 0.0, 0.0, &none), 1);  // an empty list draws nothing
+    EXPECT_EQ(Sheets().size(), 5u);
+}
+
+TEST_F(EditorTest, CancellingTheBasePointOrHavingNoActiveSystemDrawsNothing) {
+    auto definition = Definition(210, 297, 1, {L"00FRAME"});
+    acedInputScript()->addEscape();
+    EXPECT_EQ(editor->Draw(definition.get(), 2, 2, 0.0, 0.0, nullptr), 0);
+    EXPECT_EQ(editor->Draw(definition.get(), 2, 2, 0.0, 0.0, nullptr), 0);  // empty script: cancelled too
+    manager->ReloadInstanceStorage();
+    EXPECT_TRUE(manager->GetASIStorage()->GetASRegistry().empty());
+
+    std::wstring error;
+    ASSERT_TRUE(systems->SetActiveSystem(nullptr, error));
+    acedInputScript()->addPick({0, 0, 0});
+    EXPECT_EQ(editor->Draw(definition.get(), 1, 1, 0.0, 0.0, nullptr), 0);
+    EXPECT_FALSE(XimoGis::UI::CProgressBar::Instance()->IsVisible());
+    EXPECT_TRUE(Sheets().empty());
+}
+
+TEST_F(EditorTest, SetLayerRecreatesMissingLayersOnceAndTestsOnlyTheActiveSystemsTopology) {
+    const AcDbObjectId line = XimoGis::CXimoCDraw::line({0, 0, 0}, {1, 1, 0}).objectId();
+    EXPECT_TRUE(database->layerId(L"VOD_COMMENTS").isNull());
+    editor->SetLayer(line, nullptr, L"01CMMNT");  // the drawing lacks the layer: made
+    EXPECT_EQ(LayerOf(line), L"VOD_COMMENTS");
+    editor->SetLayer(line, nullptr, L"NO_SUCH_REFERENCE");
+    EXPECT_EQ(LayerOf(line), L"VOD_COMMENTS");
+
+    std::wstring error;
+    auto* gas = systems->CreateSystem(3, L"Plin", 4, {{L"SCHEME", L"GAS_SCHEME", 3, L"Continuous"}}, error);
+    ASSERT_TRUE(gas) << error;
+    editor->SetLayer(line, gas, L"SCHEME");  // passed in: its topology type is not asked
+    EXPECT_EQ(LayerOf(line), L"GAS_SCHEME");
+    ASSERT_TRUE(systems->SetActiveSystem(gas, error));
+    editor->SetLayer(line, nullptr, L"SCHEME");  // active but carries no schemes
+    EXPECT_EQ(LayerOf(line), L"GAS_SCHEME");
+    ASSERT_TRUE(systems->SetActiveSystem(water, error));
+    editor->SetLayer(AcDbObjectIdArray{AcDbObjectId(), line}, nullptr, L"SCHEME");  // a null id is passed over
+    EXPECT_EQ(LayerOf(line), L"VOD_SCHEME");
+}
+
+TEST_F(EditorTest, SheetsAreDeletedOneByOneByDefinitionOrAll) {
+    auto a4 = Definition(210, 297, 1, {L"00FRAME"});
+    auto a3 = Definition(420, 297, 1, {L"00FRAME"});
+    const auto first = DrawStored(*a4, {0, 0, 0});
+    const auto second = DrawStored(*a4, {300, 0, 0});
+    const auto third = DrawStored(*a3, {600, 0, 0});
+    const auto fourth = DrawStored(*a3, {1100, 0, 0});
+
+    CASEditor::InstanceVector one{first};
+    editor->DeleteASInstances(one);
+    EXPECT_TRUE(IsErased(first->GetId()));
+    EXPECT_TRUE(IsErased(first->GetDrawnEntitiesByComponent(L"00FRAME")->first()));
+    EXPECT_FALSE(IsErased(second->GetId()));
+    EXPECT_EQ(manager->GetASIStorage()->GetASRegistry().size(), 3u);
+
+    editor->DeleteASInstances(a3->GetId(), 0);
+    EXPECT_TRUE(IsErased(third->GetThirdGeneralEntity()));
+    EXPECT_TRUE(IsErased(fourth->GetSecondGeneralEntity()));
+    EXPECT_FALSE(IsErased(second->GetId()));
+    ASSERT_EQ(manager->GetASIStorage()->GetASRegistry().size(), 1u);
+    editor->DeleteASInstances(L"{def-2}", 0);  // ids compare exactly
+    EXPECT_EQ(manager->GetASIStorage()->GetASRegistry().size(), 1u);
+
+    editor->DeleteASInstances();
+    EXPECT_TRUE(IsErased(second->GetId()));
+    EXPECT_TRUE(manager->GetASIStorage()->GetASRegistry().empty());
+}
+
+TEST_F(EditorTest, TheSheetUnderAPointIsFoundByItsRectangle) {
+    auto definition = Definition(210, 297, 0);
+    const auto left = DrawStored(*definition, {0, 0, 0});
+    const auto right = DrawStored(*definition, {300, 0, 0});
+    EXPECT_EQ(editor->GetInstanceByPosition({100, 100, 0}), left);
+    EXPECT_EQ(editor->GetInstanceByPosition({510, 297, 3}), right);
+    EXPECT_FALSE(editor->GetInstanceByPosition({250, 100, 0}));
+}
