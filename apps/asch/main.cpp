@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "CAschCommandRegistry.h"
+#include "CCommentCommand.h"
 #include "CDefinitionsCommand.h"
 #include "CDeleteCommand.h"
 #include "CDemoCommand.h"
@@ -20,6 +21,7 @@
 int main(int argc, char** argv) {
     using namespace XimoGis::Asch;
     CAschCommandRegistry registry;
+    registry.Register(std::make_unique<CCommentCommand>());
     registry.Register(std::make_unique<CDefinitionsCommand>());
     registry.Register(std::make_unique<CDeleteCommand>());
     registry.Register(std::make_unique<CDemoCommand>());

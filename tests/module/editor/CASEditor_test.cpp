@@ -5,7 +5,11 @@
 #include "framework/cad/CXimoCDraw.h"
 #include "framework/topology/CNode.h"
 #include "framework/ui/CProgressBar.h"
+#include "host/database/acdbOpenObject.h"
+#include "host/entities/AcDbBlockReference.h"
+#include "host/entities/AcDbMText.h"
 #include "host/entities/AcDbPoint.h"
+#include "host/input/AcEdScreen.h"
 #include "host/entities/AcDbPolyline.h"
 
 #include <algorithm>
@@ -227,4 +231,101 @@ TEST_F(EditorTest, TheSheetUnderAPointIsFoundByItsRectangle) {
     EXPECT_EQ(editor->GetInstanceByPosition({100, 100, 0}), left);
     EXPECT_EQ(editor->GetInstanceByPosition({510, 297, 3}), right);
     EXPECT_FALSE(editor->GetInstanceByPosition({250, 100, 0}));
+}
+
+TEST_F(EditorTest, TheCentreOfAGroupIsWhereItsFlangeAxesMeetAndEachCandidateIsShown) {
+    acedScreen()->redraw();
+    EXPECT_EQ(CASEditor::GetCenterPoint(Elbow({5, 5, 0})), AcGePoint3d(15, 5, 0));
+    EXPECT_FALSE(acedScreen()->transientVectors().empty());
+    // A pipe piece: both axes on one line, whose point nearest the middle of the box is taken.
+    const AcDbObjectIdArray pipe{Flange({0, -3, 0}, {0, 3, 0}), Flange({20, -3, 0}, {20, 3, 0}),
+                                 Line({0, 5, 0}, {20, 5, 0})};
+    EXPECT_EQ(CASEditor::GetCenterPoint(pipe), AcGePoint3d(10, 0, 0));
+    EXPECT_EQ(CASEditor::GetCenterPoint(AcDbObjectIdArray{pipe[0], pipe[2]}), AcGePoint3d(10, 0, 0));
+    const AcDbObjectIdArray plain{Line({0, 0, 0}, {10, 4, 0})};
+    EXPECT_EQ(CASEditor::GetCenterPoint(plain), AcGePoint3d(5, 2, 0));
+    EXPECT_EQ(CASEditor::GetCenterPoint(AcDbObjectIdArray{}), AcGePoint3d::kOrigin);
+
+    EXPECT_EQ(CASEditor::GetBlockCenterPoint(nullptr), AcGePoint3d::kOrigin);
+    AcDbBlockTable* blocks = nullptr;
+    ASSERT_EQ(database->getBlockTable(blocks, AcDb::kForWrite), Acad::eOk);
+    auto* record = new AcDbBlockTableRecord;
+    record->setName(L"ELBOW");
+    AcDbObjectId block;
+    blocks->add(block, record);
+    blocks->close();
+    const AcDbObjectIdArray parts = Elbow();
+    for (const AcDbObjectId& part : parts) {
+        CXimoCEntityPtr entity(part, AcDb::kForRead);
+        record->appendAcDbEntity(static_cast<AcDbEntity*>(entity->clone()));
+    }
+    record->close();
+    AcDbBlockReference reference({100, 50, 0}, block);
+    EXPECT_EQ(CASEditor::GetBlockCenterPoint(&reference), AcGePoint3d(110, 50, 0));
+}
+
+TEST_F(EditorTest, CommentsOnASheetTakeTheCommentComponentsTextSettingsAndBelongToTheSheet) {
+    auto definition = Definition(210, 297, 0, {L"01SCHEME", L"01CMMNT"});
+    for (const auto& [id, component] : definition->GetComponents()) {
+        if (component->GetId() != L"01CMMNT") continue;
+        auto& properties = *component->GetDrawData()->GetProperties();
+        properties.AddCategory(0, 0, 0);
+        properties.AddProperty(0, boost::make_shared<XimoGis::Data::CPropertyEx>(
+                                      L"TEXT_HEIGHT", XimoGis::Data::enmPropertyValueType::Double));
+        properties.AddProperty(0, boost::make_shared<XimoGis::Data::CPropertyEx>(
+                                      L"TEXT_COLOR", XimoGis::Data::enmPropertyValueType::Integer));
+        properties.SetPropertyValue(L"TEXT_HEIGHT", 3.5);
+        properties.SetPropertyValue(L"TEXT_COLOR", 0x10002);
+    }
+    Store({definition.get()});
+    const auto sheet = DrawStored(*definition, {0, 0, 0});
+
+    const std::size_t prompts = acedInputScript()->prompts().size();
+    editor->DrawComment(L"");
+    EXPECT_EQ(acedInputScript()->prompts().size(), prompts);  // an empty text asks nothing
+
+    acedInputScript()->addScript(L"pick 50,60; pick 500,500; enter");
+    editor->DrawComment(L"Check the valve");
+    EXPECT_EQ(acedInputScript()->prompts().back(), L"Pick the insertion point");
+    const AcDbObjectIdArray* comments = sheet->GetDrawnEntitiesByComponent(L"01CMMNT");
+    ASSERT_NE(comments, nullptr);
+    ASSERT_EQ(comments->length(), 1);
+    CXimoCEntityPtr entity(comments->first(), AcDb::kForRead);
+    const auto* comment = dynamic_cast<const AcDbMText*>(entity.get());
+    ASSERT_NE(comment, nullptr);
+    EXPECT_EQ(comment->contents(), L"Check the valve");
+    EXPECT_EQ(comment->location(), AcGePoint3d(50, 60, 0));
+    EXPECT_EQ(comment->textHeight(), 3.5);
+    EXPECT_EQ(comment->colorIndex(), 2);
+    EXPECT_EQ(comment->layer(), L"VOD_SCHEME");
+    entity.close();
+
+    // The copy off the sheets stays as it was made; the prototype is gone.
+    int texts = 0;
+    AcDbObjectPointer<AcDbBlockTableRecord> space(database->modelSpaceId(), AcDb::kForRead);
+    for (const AcDbObjectId& id : space->entityIds()) {
+        CXimoCEntityPtr text(id, AcDb::kForRead);
+        if (auto* mtext = dynamic_cast<const AcDbMText*>(text.get())) {
+            ++texts;
+            if (id != comments->first()) {
+                EXPECT_EQ(mtext->location(), AcGePoint3d(500, 500, 0));
+            }
+        }
+    }
+    EXPECT_EQ(texts, 2);
+
+    manager->ReloadInstanceStorage();
+    const auto read = manager->GetASIStorage()->GetASInstanceById(sheet->GetGuid().c_str());
+    ASSERT_TRUE(read && read->GetDrawnEntitiesByComponent(L"01CMMNT"));
+    EXPECT_EQ(read->GetDrawnEntitiesByComponent(L"01CMMNT")->first(), comments->first());
+}
+
+TEST_F(EditorTest, AManholeViewNeedsASelectedSheetWithTheViewComponentAndANode) {
+    EXPECT_EQ(editor->DrawManholeView(1), 0);  // nothing selected
+    auto definition = Definition(210, 297, 0, {L"01SCHEME"});
+    Store({definition.get()});
+    DrawStored(*definition, {0, 0, 0});
+    acedInputScript()->addPick({10, 10, 0});
+    EXPECT_EQ(editor->DrawManholeView(0), 0);  // the definition has no top view component
+    EXPECT_EQ(acedInputScript()->prompts().back(), L"\nSelect a scheme: ");
 }

@@ -11,7 +11,9 @@
 #include "module/instances/CASInstanceStorage.h"
 #include "module/manager/CASManager.h"
 
+#include "framework/cad/CXimoCDraw.h"
 #include "framework/cad/CXimoCEntityPtr.h"
+#include "framework/repository/CRepositoryManager.h"
 #include "framework/systems/CSystemManager.h"
 #include "host/documents/AcApDocManager.h"
 #include "host/input/AcEdInputScript.h"
@@ -79,6 +81,33 @@ protected:
         return entity ? entity->layer() : L"(none)";
     }
     static bool IsErased(AcDbObjectId id) { return id.isErased(); }
+    // A line marked as a flange line, and a plain line.
+    AcDbObjectId Flange(const AcGePoint3d& start, const AcGePoint3d& end) const {
+        database->registerApplication(L"AMS_PRIRUBNICA");
+        CXimoCEntityPtr line = CXimoCDraw::line(start, end);
+        line->setXData(AcDbXDataApp{L"AMS_PRIRUBNICA", {AcDbXDataValue::int16(1)}});
+        return line.objectId();
+    }
+    static AcDbObjectId Line(const AcGePoint3d& start, const AcGePoint3d& end) {
+        return CXimoCDraw::line(start, end).objectId();
+    }
+    // An elbow drawn at `at`: a flange facing left on the y axis, one facing up at (10, 10), and
+    // its bend; the flange axes meet at (10, 0).
+    AcDbObjectIdArray Elbow(const AcGeVector3d& at = {0, 0, 0}) const {
+        const AcGePoint3d o = AcGePoint3d::kOrigin + at;
+        return {Flange(o + AcGeVector3d(0, -3, 0), o + AcGeVector3d(0, 3, 0)),
+                Flange(o + AcGeVector3d(7, 10, 0), o + AcGeVector3d(13, 10, 0)),
+                Line(o + AcGeVector3d(0, 0, 0), o + AcGeVector3d(10, 0, 0)),
+                Line(o + AcGeVector3d(10, 0, 0), o + AcGeVector3d(10, 10, 0))};
+    }
+    // Makes the definitions the active system's repository, as if saved by the definition editor.
+    void Store(std::initializer_list<const CASDefinition*> definitions) const {
+        std::wstring xml = L"<schemes version=\"1\" exploded=\"0\">";
+        for (const CASDefinition* definition : definitions) xml += definition->GetXML();
+        std::wstring error;
+        ASSERT_TRUE(water->SetSubXMLByReferenceId(L"AS", xml + L"</schemes>", error)) << error;
+        CRepositoryManager::GetSystemRepository(water, L"AS", CRepositoryManager::kReload);
+    }
 
     XimoGis::Testing::TempFolder folder;
     System::CSystemManager* systems = System::CSystemManager::Instance();
