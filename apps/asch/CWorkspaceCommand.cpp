@@ -7,6 +7,7 @@
 #include "framework/topology/CTopologyMultiStorage.h"
 #include "framework/workspace/CWorkspaceBuilder.h"
 #include "host/base/AcString.h"
+#include "module/catalog/CASDemoElements.h"
 
 namespace XimoGis::Asch {
 
@@ -57,7 +58,14 @@ int CWorkspaceCommand::Init(const CAschArguments& arguments, CAschConsole& conso
     }
     const std::wstring folder = arguments.GetText("folder");
     std::wstring error;
-    const bool built = demo ? Demo::CDemoWorkspace::Build(folder, error)
+    using AssemblySchemes::CASDemoElements;
+    const std::vector<Workspace::CWorkspaceBuilder::Step> elements = {
+        [](const std::wstring& built, std::wstring& e) {
+            return CASDemoElements::InstallPlugins(acutUtf8ToWchar(XIMO_PLUGIN_DIR), built, e);
+        },
+        &CASDemoElements::WriteBlockFiles,
+    };
+    const bool built = demo ? Demo::CDemoWorkspace::Build(folder, error, elements)
                             : Workspace::CWorkspaceBuilder::Build(folder, source, {}, error);
     if (!built) return console.Fail(error);
     console.Out() << "workspace written to " << Utf8(folder) << '\n';

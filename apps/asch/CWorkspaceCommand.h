@@ -1,7 +1,8 @@
 #pragma once
 // "asch workspace ACTION DIR": makes and inspects workspace folders.
 //   init DIR [--demo | --source SRC]   builds a workspace (the demo's, or from sources), replacing
-//                                      a workspace built there before
+//                                      a workspace built there before; the demo gets the element
+//                                      plug-ins built with asch and block files of a few items
 //   import DIR --system ID --nodes FILE --sections FILE
 //                                      replaces a system's node and section layers
 //   info DIR                           lists the systems, their layers, networks and data

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "CAschCommandRegistry.h"
+#include "CCatalogCommand.h"
 #include "CCommentCommand.h"
 #include "CDefinitionsCommand.h"
 #include "CDeleteCommand.h"
@@ -21,6 +22,7 @@
 int main(int argc, char** argv) {
     using namespace XimoGis::Asch;
     CAschCommandRegistry registry;
+    registry.Register(std::make_unique<CCatalogCommand>());
     registry.Register(std::make_unique<CCommentCommand>());
     registry.Register(std::make_unique<CDefinitionsCommand>());
     registry.Register(std::make_unique<CDeleteCommand>());

@@ -6,12 +6,14 @@
 
 namespace XimoGis::Demo {
 
-bool CDemoWorkspace::Build(const std::wstring& folder, std::wstring& error) {
+bool CDemoWorkspace::Build(const std::wstring& folder, std::wstring& error,
+                           const std::vector<Workspace::CWorkspaceBuilder::Step>& moreSteps) {
     using Workspace::CWorkspaceBuilder;
-    const std::vector<CWorkspaceBuilder::Step> steps = {
+    std::vector<CWorkspaceBuilder::Step> steps = {
         &CDemoCatalog::Import,
         [](const std::wstring& built, std::wstring& e) { return CDemoTitleBlocks::Write(built + L"install/symbol", e); },
     };
+    steps.insert(steps.end(), moreSteps.begin(), moreSteps.end());
     return CWorkspaceBuilder::Build(folder, CWorkspaceBuilder::GetDemoSourceFolder(), steps, error);
 }
 

@@ -11,6 +11,7 @@
 #include <geos/geom/Polygon.h>
 
 #include "framework/cad/CXimoCDraw.h"
+#include "framework/utility/CFilePath.h"
 #include "host/input/acedGraphics.h"
 
 namespace XimoGis::Utility {
@@ -34,7 +35,7 @@ std::wstring CUtility::CreateGUID() {
 
 bool CUtility::FileExists(const std::wstring& path) {
     std::error_code ec;
-    return !path.empty() && std::filesystem::is_regular_file(std::filesystem::path(path), ec);
+    return !path.empty() && std::filesystem::is_regular_file(CFilePath::ToPath(path), ec);
 }
 
 void CUtility::acedGrDrawCross(const AcGePoint3d& point, double size, int color) {

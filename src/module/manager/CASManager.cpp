@@ -1,5 +1,6 @@
 #include "module/manager/CASManager.h"
 
+#include "module/catalog/CASBlockFileName.h"
 #include "module/components/ASComponent_BOM.h"
 #include "module/components/ASComponent_Comment.h"
 #include "module/components/ASComponent_Frame.h"
@@ -20,8 +21,10 @@
 #include "module/instances/CASEventResponder.h"
 #include "module/instances/CASInstance.h"
 #include "module/instances/CASInstanceStorage.h"
+#include "module/manager/CASPluginLoader.h"
 #include "module/support/ASFunctionTrace.h"
 
+#include "framework/config/CModuleConfiguration.h"
 #include "framework/dialogs/CCustomDialogRegistry.h"
 #include "framework/notification/CNotificationFramework.h"
 #include "framework/repository/CRepositoryManager.h"
@@ -54,6 +57,10 @@ CASManager* CASManager::Instance() {
 
 CASManager::~CASManager() {
     if (m_responder) CNotificationFramework::Instance()->UnregisterEventResponder(m_responder.get());
+}
+
+void CASManager::LoadAssemblyElementsPlugins() {
+    CASPluginLoader::LoadPlugins(CModuleConfiguration::GetPath(L"install"));
 }
 
 void CASManager::RegisterSchemeComponents() {
@@ -121,6 +128,15 @@ CGisSystem* CASManager::GetSystemByASDefinitionId(const wchar_t* id) const {
         }
     }
     return nullptr;
+}
+
+std::wstring CASManager::GetASElementsBlockPath() const {
+    const std::wstring support = CModuleConfiguration::GetPath(L"support");
+    return support.empty() ? support : support + L"AssemblyElements/";
+}
+
+std::wstring CASManager::GetBlockFileName(enmViewDirection view, Data::CCatalogItem* catalogItem) const {
+    return CASBlockFileName::MakeNew(GetASElementsBlockPath(), view, catalogItem);
 }
 
 boost::shared_ptr<CASInstanceStorage>& CASManager::GetASIStorage() {

@@ -6,6 +6,7 @@
 //
 // Created by the first Instance() call and never destroyed while the process runs.
 
+#include "module/catalog/enmViewDirection.h"
 #include "module/manager/IAssemblyElementTypeProvider.h"
 #include "module/manager/IASListener.h"
 
@@ -17,6 +18,9 @@
 #include <string>
 #include <vector>
 
+namespace XimoGis::Data {
+class CCatalogItem;
+}
 namespace XimoGis::System {
 class CGisSystem;
 }
@@ -48,6 +52,8 @@ public:
     // Appends every registered component type, in id order; `components` is not cleared first.
     void GetASComponents(std::vector<boost::shared_ptr<IASComponentInterface>>& components) const;
 
+    // Registers the provider under its id; when the id is taken, the provider registered first
+    // stays (plug-ins load in the order the file system lists them).
     void RegisterAssemblyElement(const boost::shared_ptr<IAssemblyElementTypeProvider>& provider);
     boost::shared_ptr<IAssemblyElementTypeProvider> GetAETypeProvider(const wchar_t* id) const;
     ElementTypeRegistry* GetAssemblyElementTypeRegistry() { return &m_elementTypes; }
@@ -83,6 +89,14 @@ public:
     void Raise_OnRequestUpdateBOM(CASInstance* instance, CASDefinition* definition);
     void Raise_OnRequestUpdatePositionLabels(CASInstance* instance, CASDefinition* definition);
 
+    // The element block folder: the configuration's "support" folder followed by
+    // "AssemblyElements/" ('/' being this system's path separator); empty when no support folder
+    // is configured.
+    std::wstring GetASElementsBlockPath() const;
+    // A name for a new block file of the item seen from `view`, not yet taken in the element
+    // block folder, without folder and extension (see CASBlockFileName); empty for a null item.
+    std::wstring GetBlockFileName(enmViewDirection view, Data::CCatalogItem* catalogItem) const;
+
     // The module's dialogs, with the module's resources current. This build has no windows: each
     // writes what it would show to the workspace's message log.
     void ShowASManager();
@@ -95,8 +109,8 @@ private:
 
     CASManager() = default;
 
-    // Element plug-ins come with the element catalog; until then there is nothing to load.
-    void LoadAssemblyElementsPlugins() {}
+    // Loads the element plug-ins of the configuration's "install" folder (CASPluginLoader).
+    void LoadAssemblyElementsPlugins();
     void RegisterSchemeComponents();
     void AddSchemeComponent(const boost::shared_ptr<IASComponentInterface>& component);
     CASDefinition* DefinitionForEvent(CASInstance* instance, CASDefinition* definition) const;

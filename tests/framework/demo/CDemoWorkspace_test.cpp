@@ -129,3 +129,20 @@ TEST_F(CDemoWorkspaceTest, TheSqlite3ProgramSeesTheFeatureLayers) {
     EXPECT_EQ(Sqlite3(store, "SELECT count(*) FROM gpkg_contents WHERE data_type = 'features' AND srs_id = 3765"),
               "4\n");
 }
+
+TEST(CDemoWorkspace, FurtherStepsRunInTheFolderBeingBuiltAfterTheDemosOwnParts) {
+    Testing::TempFolder folder;
+    const std::wstring target = (folder.Path() / "demo").wstring();
+    std::wstring error;
+    const Workspace::CWorkspaceBuilder::Step look = [&target](const std::wstring& built, std::wstring&) {
+        return built != target + L"/" && std::filesystem::exists(std::filesystem::path(built) / "install/symbol");
+    };
+    EXPECT_TRUE(Demo::CDemoWorkspace::Build(target, error, {look})) << error;
+    const Workspace::CWorkspaceBuilder::Step fail = [](const std::wstring&, std::wstring& e) {
+        e = L"step failed";
+        return false;
+    };
+    EXPECT_FALSE(Demo::CDemoWorkspace::Build(target, error, {fail}));
+    EXPECT_EQ(error, L"step failed");
+    EXPECT_TRUE(std::filesystem::exists(folder.Path() / "demo/workspace.xml"));  // the first build stays
+}

@@ -33,5 +33,8 @@ TEST(CUtility, FileExistsOnlyForRegularFiles) {
     EXPECT_FALSE(CUtility::FileExists(dir.wstring()));
     EXPECT_FALSE(CUtility::FileExists((dir / "missing.txt").wstring()));
     EXPECT_FALSE(CUtility::FileExists(L""));
+    // Names that are not ASCII go through UTF-8 whatever the process locale is.
+    std::ofstream(dir / std::filesystem::path(u8"Koljena 90° (Q).dxf")) << "x";
+    EXPECT_TRUE(CUtility::FileExists(dir.wstring() + L"/Koljena 90\u00B0 (Q).dxf"));
     std::filesystem::remove_all(dir);
 }

@@ -8,6 +8,8 @@
 #include "module/instances/CASInstanceStorage.h"
 #include "module/manager/CASManagerTestAccess.h"
 
+#include "framework/catalog/CCatalog.h"
+#include "framework/config/CModuleConfiguration.h"
 #include "framework/dialogs/CCustomDialogRegistry.h"
 #include "framework/logging/CLogEngine.h"
 #include "framework/systems/CSystemManager.h"
@@ -81,6 +83,8 @@ protected:
 class Provider : public IAssemblyElementTypeProvider {
 public:
     explicit Provider(const wchar_t* id) : IAssemblyElementTypeProvider(id, eAssemblyElementUndefined) {}
+    std::wstring GetDescription() const override { return L"test"; }
+    int CheckCatalogItem(const XimoGis::Data::CCatalogItem*, std::wstring&) const override { return 1; }
 };
 
 }  // namespace
@@ -260,4 +264,18 @@ TEST_F(ManagerTest, DialogsReportWhatTheyWouldShow) {
     EXPECT_EQ(messages[2].text.rfind(L"Catalog converter", 0), 0u);
     log->ClearMessages();
     manager->GetASIStorage()->Clear();
+}
+
+TEST(CASManager, NewElementBlockNamesAreFreeInTheSupportFoldersBlockFolder) {
+    EXPECT_EQ(CASManager::Instance()->GetASElementsBlockPath(), L"");  // no workspace open
+    TempFolder folder;
+    folder.Write("workspace.xml", "<workspace name=\"Blocks\"><paths support=\"data/support\"/></workspace>");
+    std::wstring error;
+    ASSERT_TRUE(XimoGis::CModuleConfiguration::Instance()->Open(folder.Text(), error)) << error;
+    EXPECT_EQ(CASManager::Instance()->GetASElementsBlockPath(), folder.Text() + L"/data/support/AssemblyElements/");
+    XimoGis::Data::CCatalog catalog(L"ASSEMBLYSCHEMES_CATALOG");
+    auto* cap = catalog.AddItem(nullptr, L"", L"Cap", false, L"ELEMENT_BLOCK01", error);
+    folder.Write("data/support/AssemblyElements/_Cap_5.dxf", "");
+    EXPECT_EQ(CASManager::Instance()->GetBlockFileName(eViewLeft, cap), L"_Cap_5_1");
+    XimoGis::CModuleConfiguration::Instance()->Close();
 }
