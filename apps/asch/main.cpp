@@ -5,6 +5,7 @@
 #include <string>
 #include <vector>
 
+#include "CAddElementCommand.h"
 #include "CAschCommandRegistry.h"
 #include "CCatalogCommand.h"
 #include "CCommentCommand.h"
@@ -22,6 +23,7 @@
 int main(int argc, char** argv) {
     using namespace XimoGis::Asch;
     CAschCommandRegistry registry;
+    registry.Register(std::make_unique<CAddElementCommand>());
     registry.Register(std::make_unique<CCatalogCommand>());
     registry.Register(std::make_unique<CCommentCommand>());
     registry.Register(std::make_unique<CDefinitionsCommand>());

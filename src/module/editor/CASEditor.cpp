@@ -1,5 +1,7 @@
 #include "module/editor/CASEditor.h"
 
+#include "module/catalog/CASCatalog.h"
+#include "module/catalog/CASElementDrawing.h"
 #include "module/components/IASComponentInterface.h"
 #include "module/definitions/CASDefinition.h"
 #include "module/editor/CASFlange.h"
@@ -10,9 +12,13 @@
 #include "module/support/CASEntityGroup.h"
 #include "module/support/CASFormat.h"
 
+#include "framework/cad/CXimoCDocLock.h"
 #include "framework/cad/CXimoCDraw.h"
 #include "framework/cad/CXimoCEdit.h"
+#include "framework/catalog/CCatalogItem.h"
 #include "framework/config/CModuleConfiguration.h"
+#include "framework/data/CDDCache.h"
+#include "framework/data/CDataRW.h"
 #include "framework/data/CManholeManager.h"
 #include "framework/longitudinal/CLSEditor.h"
 #include "framework/manholescheme/CMSManager.h"
@@ -47,6 +53,13 @@ constexpr int kPickPointMessage = 6260;
 constexpr int kManholeFailedMessage = 9965;
 constexpr int kNoManholeMessage = 9968;
 constexpr int kCrossColor = 1;
+constexpr int kElementFlangeMessage = 22024;
+constexpr int kSchemeFlangeMessage = 22023;
+constexpr int kMirrorMessage = 9977;
+constexpr int kRotateMessage = 22021;
+// The drag takes any typed text (RSG_OTHER) and ignores object snaps (RSG_NOOSNAP).
+constexpr int kPlacementInputFlags = 2176;
+constexpr int kElementEntityType = 512;
 constexpr const wchar_t* kCommentComponent = L"01CMMNT";
 
 System::CGisSystem* ActiveSystem() { return System::CSystemManager::Instance()->GetActiveSystem(); }
@@ -261,6 +274,94 @@ boost::shared_ptr<CASInstance> CASEditor::GetInstanceByPosition(const AcGePoint3
             return instance;
     }
     return {};
+}
+
+int CASEditor::DrawASElement(Data::CCatalogItem* item, enmViewDirection view) {
+    if (!item) return 0;
+    CASManager* manager = CASManager::Instance();
+    // Drawn at the scale of a new definition; the sheet it goes to may want another.
+    const auto drawing = boost::make_shared<CASDefinition>();
+    const std::wstring blocks = manager->GetASElementsBlockPath();
+    const CASElementDrawing::Source source = CASElementDrawing::Find(view, item, blocks);
+    AcDbObjectIdArray ids;
+    std::wstring error;
+    if (!CASElementDrawing::Draw(AcGePoint3d::kOrigin, view, item, drawing.get(), blocks, ids, error)) {
+        Workspace::CWsManager::LogMessage(4, error, item->GetId());
+        return 0;
+    }
+    int placed = 0;
+    {
+        [[maybe_unused]] CXimoCDocLock lock;
+        if (DragElement(ids) == RTNORM) {
+            const std::wstring providerId = source.provider ? source.provider->GetProviderId() : L"";
+            placed = InsertElement(ids, *item, providerId, drawing->GetScale()->x()) ? 1 : 0;
+        }
+        if (!placed) Utility::CUtility::EraseElements(ids);
+    }
+    m_pDragGenData_Draw->Finish();
+    HideASButtons(0);
+    acedRedraw(nullptr, 1);
+    return placed;
+}
+
+int CASEditor::DragElement(const AcDbObjectIdArray& ids) {
+    AcGePoint3d centre;
+    CXimoCEntityPtr first(ids.first(), AcDb::kForRead);
+    auto* block = ids.length() == 1 ? dynamic_cast<AcDbBlockReference*>(first.get()) : nullptr;
+    centre = block ? GetBlockCenterPoint(block) : AcGePoint3d();
+    first.close();
+    if (!block) centre = GetCenterPoint(ids);
+    m_pDragGenData_Draw->Start(ids, centre, &m_mover,
+                               [this](const AcGePoint3d& point) { return GetInstanceByPosition(point); });
+
+    using Messages = CModuleConfiguration;
+    const std::wstring words[] = {Messages::GetMsg(kElementFlangeMessage), Messages::GetMsg(kSchemeFlangeMessage),
+                                  Messages::GetMsg(kMirrorMessage), Messages::GetMsg(kRotateMessage)};
+    const std::wstring prompt =
+        CASFormat::Format(L"%ls %ls %ls %ls", words[0].c_str(), words[1].c_str(), words[2].c_str(), words[3].c_str());
+    const std::wstring keywords = CASFormat::Format(L"%ls %ls %ls %ls _ Rot Mir Elf Scf", words[0].c_str(),
+                                                    words[1].c_str(), words[2].c_str(), words[3].c_str());
+    const CSelection selection(ids);
+    for (;;) {
+        acedInitGet(kPlacementInputFlags, keywords.c_str());
+        ads_point picked;
+        const int status = acedDragGen(selection.Get(), prompt.c_str(), 0, DrawCallback, picked);
+        if (status != RTKWORD) return status;
+        ACHAR keyword[133] = {};
+        acedGetInput(keyword, 133);
+        const std::wstring chosen = keyword;
+        if (chosen == L"Rot") {
+            m_pDragGenData_Draw->SetMode(CDragGenData_Draw::eModeRotate);
+        } else if (chosen == L"Mir") {
+            m_pDragGenData_Draw->SetMode(CDragGenData_Draw::eModeMirror);
+            m_pDragGenData_Draw->Repeat();
+        } else if (chosen == L"Elf") {
+            m_pDragGenData_Draw->SetMode(CDragGenData_Draw::eModeElementFlange);
+        } else if (chosen == L"Scf") {
+            m_pDragGenData_Draw->SetMode(CDragGenData_Draw::eModeSchemeFlange);
+        }
+    }
+}
+
+bool CASEditor::InsertElement(const AcDbObjectIdArray& ids, const Data::CCatalogItem& item,
+                              const std::wstring& providerId, double drawnScale) {
+    const AcGePoint3d point = m_pDragGenData_Draw->GetHandle();
+    const auto instance = GetInstanceByPosition(point);
+    if (!instance) return false;
+    CASManager* manager = CASManager::Instance();
+    CASDefinition* definition = manager->GetASDefinitionById(instance->GetDefinitionId().c_str());
+    const double sheetScale = definition ? definition->GetScale()->x() : drawnScale;
+    if (sheetScale > 0.0 && drawnScale > 0.0 && sheetScale != drawnScale)
+        m_mover.Scale(ids, sheetScale / drawnScale, point);
+
+    CASElementInstance::MarkAsDataHolder(ids.first());
+    const auto element = instance->CreateElementInstance(providerId.c_str(), item.GetId().c_str(), ids);
+    for (const AcDbObjectId& id : ids) Data::CDataRW::Write(id, Data::CDDCache::GetEntityType(), kElementEntityType);
+    SetLayer(ids, nullptr, L"SCHEME");
+    instance->AddDrawnByComponent(L"01SCHEME", ids);
+    instance->Serialize(ActiveSystem());
+    manager->Raise_OnAfterASElementInserted(instance.get(), definition, element.get());
+    return true;
 }
 
 boost::shared_ptr<CASInstance> CASEditor::SelectScheme() const {

@@ -13,6 +13,7 @@
 // Created on the first Instance() call and never destroyed while the process runs. Everything
 // runs on the one user-interface thread; the static drag data are not synchronised.
 
+#include "module/catalog/enmViewDirection.h"
 #include "module/editor/CASEntityMover.h"
 #include "module/editor/CDragGenData_Draw.h"
 #include "module/editor/IGripButtonListener.h"
@@ -30,6 +31,9 @@
 class AcDbBlockReference;
 class AcDbEntity;
 
+namespace XimoGis::Data {
+class CCatalogItem;
+}
 namespace XimoGis::System {
 class CGisSystem;
 }
@@ -90,6 +94,16 @@ public:
     // origin for null.
     static AcGePoint3d GetBlockCenterPoint(AcDbBlockReference* block);
 
+    // Adds one catalog element, seen from the view, to a drawn sheet. The element is drawn by its
+    // type's provider (or from its block file), hangs on the cursor by its centre and is placed
+    // by the user with the placement modes of CDragGenData_Draw, switched by the keywords of the
+    // prompt ("Rot", "Mir", "Elf", "Scf") or the grip buttons. It goes to the sheet under the
+    // point where it is held when placed, scaled to the sheet's definition, and is numbered as an
+    // element of that sheet; the sheet's components hear of it. 1 when placed; 0 when the item
+    // cannot be drawn, the user cancels or there is no sheet at the point (what was drawn for the
+    // placement is erased then).
+    int DrawASElement(Data::CCatalogItem* item, enmViewDirection view);
+
     // Places copies of a comment text on sheets: one at every point the user picks until any
     // other answer. A copy on a sheet whose definition has a comment component takes that
     // component's text height, colour and style and becomes part of the sheet. Nothing happens
@@ -131,6 +145,11 @@ private:
     // Drags the entities from the base point until the user picks a point (true) or answers
     // otherwise; the entities are not changed.
     static bool DragGroup(const AcDbObjectIdArray& ids, const AcGePoint3d& base, AcGePoint3d& picked);
+    // Runs the placement drag of the drawn element until it is placed (RTNORM) or not.
+    int DragElement(const AcDbObjectIdArray& ids);
+    // Makes the placed entities an element of the sheet under the handle; false when none is there.
+    bool InsertElement(const AcDbObjectIdArray& ids, const Data::CCatalogItem& item, const std::wstring& providerId,
+                       double drawnScale);
 
     AcDbObjectIdArray m_collected;
     CASEntityMover m_mover;

@@ -4,12 +4,15 @@
 #include "module/support/CASEntityGroup.h"
 
 #include "framework/cad/CXimoCEntityPtr.h"
+#include "host/entities/AcDbBlockReference.h"
 #include "host/entities/AcDbLine.h"
+
+#include <memory>
 
 namespace XimoGis::AssemblySchemes {
 
-CASFlange::CASFlange(const AcGePoint3d& start, const AcGePoint3d& end, AcDbObjectId id)
-    : m_start(start), m_end(end), m_id(id) {}
+CASFlange::CASFlange(const AcGePoint3d& start, const AcGePoint3d& end, AcDbObjectId id, int part)
+    : m_start(start), m_end(end), m_id(id), m_part(part) {}
 
 bool CASFlange::IsFlangeLine(const AcDbEntity* entity) {
     return dynamic_cast<const AcDbLine*>(entity) && entity->xDataFor(kApplication);
@@ -19,9 +22,22 @@ std::vector<CASFlange> CASFlange::Find(const AcDbObjectIdArray& ids) {
     std::vector<CASFlange> flanges;
     for (const AcDbObjectId& id : ids) {
         CXimoCEntityPtr entity(id, AcDb::kForRead);
-        if (!IsFlangeLine(entity.get())) continue;
-        const auto* line = static_cast<const AcDbLine*>(entity.get());
-        flanges.emplace_back(line->startPoint(), line->endPoint(), id);
+        if (IsFlangeLine(entity.get())) {
+            const auto* line = static_cast<const AcDbLine*>(entity.get());
+            flanges.emplace_back(line->startPoint(), line->endPoint(), id);
+            continue;
+        }
+        // Elements drawn from block files keep their flange lines inside the block.
+        const auto* reference = dynamic_cast<const AcDbBlockReference*>(entity.get());
+        AcDbVoidPtrArray parts;
+        if (!reference || reference->explode(parts) != Acad::eOk) continue;
+        int part = 0;
+        for (void* item : parts) {
+            std::unique_ptr<AcDbEntity> piece(static_cast<AcDbEntity*>(item));
+            if (!IsFlangeLine(piece.get())) continue;
+            const auto* line = static_cast<const AcDbLine*>(piece.get());
+            flanges.emplace_back(line->startPoint(), line->endPoint(), id, part++);
+        }
     }
     return flanges;
 }

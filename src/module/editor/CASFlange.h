@@ -20,18 +20,23 @@ class CASFlange {
 public:
     static constexpr const wchar_t* kApplication = L"AMS_PRIRUBNICA";
 
-    CASFlange(const AcGePoint3d& start, const AcGePoint3d& end, AcDbObjectId id = {});
+    // `part` tells apart the flange lines of one block reference.
+    CASFlange(const AcGePoint3d& start, const AcGePoint3d& end, AcDbObjectId id = {}, int part = 0);
 
     // Whether the entity is a line marked as a flange line.
     static bool IsFlangeLine(const AcDbEntity* entity);
-    // The flange lines among the entities, in their order; ids that cannot be opened are passed over.
+    // The flange lines among the entities, in their order, those in block references included
+    // (where the reference puts them); ids that cannot be opened are passed over.
     static std::vector<CASFlange> Find(const AcDbObjectIdArray& ids);
     // The flanges of a sheet's elements that no other flange of the sheet is joined to (midpoints
     // apart by more than `tolerance`), each with the centre of its element's box as `owner`.
     struct Free;
     static std::vector<Free> FindFree(const CASInstance& sheet, double tolerance);
 
+    // The line, or the block reference that shows it.
     AcDbObjectId GetId() const { return m_id; }
+    int GetPart() const { return m_part; }
+    bool IsSameLine(const CASFlange& other) const { return m_id == other.m_id && m_part == other.m_part; }
     const AcGePoint3d& GetStart() const { return m_start; }
     const AcGePoint3d& GetEnd() const { return m_end; }
     AcGePoint3d GetMidPoint() const;
@@ -46,6 +51,7 @@ private:
     AcGePoint3d m_start;
     AcGePoint3d m_end;
     AcDbObjectId m_id;
+    int m_part = 0;
 };
 
 struct CASFlange::Free {

@@ -16,7 +16,7 @@ constexpr double kPi = 3.14159265358979323846;
 
 double Angle(const AcGeVector3d& v) { return std::atan2(v.y, v.x); }
 
-// The one of the flanges nearest the point; null for none.
+// The item at the smallest distance; null for none.
 template <class Item, class Distance>
 const Item* Nearest(const std::vector<Item>& items, Distance distance) {
     const Item* nearest = nullptr;
@@ -39,6 +39,7 @@ void CDragGenData_Draw::Start(const AcDbObjectIdArray& ids, const AcGePoint3d& h
     m_handle = handle;
     m_lastCursor = handle;
     m_handleFlange.setNull();
+    m_handleFlangePart = 0;
     m_placement.setToIdentity();
     m_mover = mover;
     m_sheets = std::move(sheets);
@@ -98,21 +99,29 @@ void CDragGenData_Draw::Rotate(const AcGePoint3d& cursor) {
 }
 
 void CDragGenData_Draw::Mirror() {
-    AcGeVector3d axis = m_placement * AcGeVector3d::kXAxis;
-    if (!m_handleFlange.isNull()) {
-        const std::vector<CASFlange> held = CASFlange::Find(AcDbObjectIdArray{m_handleFlange});
-        if (!held.empty()) axis = held.front().GetAxis().direction();
-    }
+    const std::optional<CASFlange> held = HeldFlange();
+    const AcGeVector3d axis = held ? held->GetAxis().direction() : m_placement * AcGeVector3d::kXAxis;
     Turn(AcGeMatrix3d::mirroring(AcGeLine3d(m_handle, axis)));
+}
+
+std::optional<CASFlange> CDragGenData_Draw::HeldFlange() const {
+    if (m_handleFlange.isNull()) return std::nullopt;
+    for (const CASFlange& flange : CASFlange::Find(AcDbObjectIdArray{m_handleFlange})) {
+        if (flange.GetPart() == m_handleFlangePart) return flange;
+    }
+    return std::nullopt;
+}
+
+void CDragGenData_Draw::Hold(const CASFlange& flange) {
+    m_handleFlange = flange.GetId();
+    m_handleFlangePart = flange.GetPart();
+    m_handle = flange.GetMidPoint();
 }
 
 void CDragGenData_Draw::TakeFlange(const AcGePoint3d& cursor) {
     const std::vector<CASFlange> flanges = CASFlange::Find(m_ids);
     const CASFlange* nearest = Nearest(flanges, [&](const CASFlange& f) { return f.DistanceTo(cursor); });
-    if (nearest) {
-        m_handleFlange = nearest->GetId();
-        m_handle = nearest->GetMidPoint();
-    }
+    if (nearest) Hold(*nearest);
     MoveHandleTo(cursor);
 }
 
@@ -128,10 +137,8 @@ void CDragGenData_Draw::JoinSchemeFlange(const AcGePoint3d& cursor) {
     }
     const AcGePoint3d joint = target->flange.GetMidPoint();
     const std::vector<CASFlange> own = CASFlange::Find(m_ids);
-    const CASFlange* chosen = nullptr;
-    for (const CASFlange& flange : own) {
-        if (flange.GetId() == m_handleFlange) chosen = &flange;
-    }
+    const std::optional<CASFlange> held = HeldFlange();
+    const CASFlange* chosen = held ? &*held : nullptr;
     if (!chosen) chosen = Nearest(own, [&](const CASFlange& f) { return f.GetMidPoint().distanceTo(joint); });
     if (!chosen) {
         MoveHandleTo(joint);
@@ -140,8 +147,7 @@ void CDragGenData_Draw::JoinSchemeFlange(const AcGePoint3d& cursor) {
     // Turn the chosen flange to face the scheme flange, then bring the midpoints together.
     const AcGeVector3d ownNormal = chosen->GetOutwardNormal(Inside());
     const AcGeVector3d schemeNormal = target->flange.GetOutwardNormal(target->owner);
-    m_handleFlange = chosen->GetId();
-    m_handle = chosen->GetMidPoint();
+    Hold(*chosen);
     const double turn = Angle(-schemeNormal) - Angle(ownNormal);
     if (std::abs(std::remainder(turn, 2.0 * kPi)) >= 1e-12)
         Turn(AcGeMatrix3d::rotation(turn, AcGeVector3d::kZAxis, m_handle));

@@ -31,6 +31,8 @@
 #include <boost/function.hpp>
 #include <boost/shared_ptr.hpp>
 
+#include <optional>
+
 namespace XimoGis::AssemblySchemes {
 
 class CASInstance;
@@ -69,7 +71,8 @@ public:
     const AcDbObjectIdArray& GetEntities() const { return m_ids; }
     // Where the element is held: the point that was picked, or the joined flanges' midpoint.
     const AcGePoint3d& GetHandle() const { return m_handle; }
-    // The handle flange's line; null while the element is held by its centre.
+    // The handle flange's line (or the block reference showing it); null while the element is
+    // held by its centre.
     AcDbObjectId GetHandleFlange() const { return m_handleFlange; }
     // Everything done to the entities since Start.
     const AcGeMatrix3d& GetPlacement() const { return m_placement; }
@@ -84,6 +87,9 @@ private:
     void Mirror();
     void TakeFlange(const AcGePoint3d& cursor);
     void JoinSchemeFlange(const AcGePoint3d& cursor);
+    // The handle flange where it is now; null while the element is held by its centre.
+    std::optional<CASFlange> HeldFlange() const;
+    void Hold(const CASFlange& flange);
     // The centre of the element's box, where it is now.
     AcGePoint3d Inside() const;
 
@@ -93,6 +99,7 @@ private:
     AcGePoint3d m_handle;
     AcGePoint3d m_lastCursor;
     AcDbObjectId m_handleFlange;
+    int m_handleFlangePart = 0;
     AcGeMatrix3d m_placement;
     CASEntityMover* m_mover = nullptr;
     SheetFinder m_sheets;

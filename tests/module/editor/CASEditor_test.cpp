@@ -2,7 +2,10 @@
 
 #include "module/editor/EditorFixture.h"
 
+#include "module/editor/CASFlange.h"
+
 #include "framework/cad/CXimoCDraw.h"
+#include "framework/catalog/CCatalogItem.h"
 #include "framework/topology/CNode.h"
 #include "framework/ui/CProgressBar.h"
 #include "host/database/acdbOpenObject.h"
@@ -13,6 +16,7 @@
 #include "host/entities/AcDbPolyline.h"
 
 #include <algorithm>
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -328,4 +332,97 @@ TEST_F(EditorTest, AManholeViewNeedsASelectedSheetWithTheViewComponentAndANode) 
     acedInputScript()->addPick({10, 10, 0});
     EXPECT_EQ(editor->DrawManholeView(0), 0);  // the definition has no top view component
     EXPECT_EQ(acedInputScript()->prompts().back(), L"\nSelect a scheme: ");
+}
+
+namespace {
+
+// Draws the fixture's elbow at the insertion point, from every view.
+class ElbowProvider : public IAssemblyElementTypeProvider {
+public:
+    using Drawer = std::function<AcDbObjectIdArray(const AcGeVector3d&)>;
+    explicit ElbowProvider(Drawer draw)
+        : IAssemblyElementTypeProvider(L"TEST_ELBOW", eAssemblyElementFitting), m_draw(std::move(draw)) {}
+    std::wstring GetDescription() const override { return L"elbow"; }
+    int CheckCatalogItem(const XimoGis::Data::CCatalogItem*, std::wstring&) const override { return 1; }
+    int DrawAEProjection(const AcGePoint3d& at, enmViewDirection, XimoGis::Data::CCatalogItem*, CASDefinition*,
+                         AcArray<AcDbObjectId>& created) override {
+        created.append(m_draw(at - AcGePoint3d::kOrigin));
+        return 1;
+    }
+    int IsProjectionSupported(enmViewDirection) const override { return 1; }
+
+private:
+    Drawer m_draw;
+};
+
+class ElementPlacement : public EditorTest {
+protected:
+    void SetUp() override {
+        EditorTest::SetUp();
+        manager->RegisterAssemblyElement(provider);
+        auto type = boost::make_shared<XimoGis::Data::CPropertyEx>(L"AS_ELEMENTTYPE",
+                                                                   XimoGis::Data::enmPropertyValueType::Text);
+        item.GetProperties().AddCategory(0, 0, 0);
+        item.GetProperties().AddProperty(0, type);
+        item.GetProperties().SetPropertyValue(L"AS_ELEMENTTYPE", L"TEST_ELBOW");
+        auto definition = Definition(210, 297, 0, {L"01SCHEME"});
+        Store({definition.get()});
+        sheet = DrawStored(*definition, {0, 0, 0});
+    }
+    void TearDown() override {
+        manager->GetAssemblyElementTypeRegistry()->erase(L"TEST_ELBOW");
+        EditorTest::TearDown();
+    }
+
+    boost::shared_ptr<ElbowProvider> provider =
+        boost::make_shared<ElbowProvider>([this](const AcGeVector3d& at) { return ElbowAt(at); });
+    XimoGis::Data::CCatalogItem item{L"{ELBOW-1}", L"Q 100", false, L"ELEMENT_BLOCK01"};
+    boost::shared_ptr<CASInstance> sheet;
+};
+
+}  // namespace
+
+TEST_F(ElementPlacement, APlacedElementBelongsToTheSheetUnderItsHandleWithItsNumberTypeAndLayer) {
+    acedInputScript()->addScript(L"move 50,50; text hello; text _Rot; move 50,80; text _Mir; pick 50,50");
+    ASSERT_EQ(editor->DrawASElement(&item, eViewTop), 1);
+    EXPECT_EQ(acedInputScript()->prompts().front(), L"ElementFlange SchemeFlange Mirror Rotate");
+    EXPECT_EQ(acedInputScript()->prompts().size(), 4u);  // each keyword, and unknown text, asks again
+
+    ASSERT_EQ(sheet->GetElementInstances().size(), 1u);
+    const auto& element = sheet->GetElementInstances().begin()->second;
+    EXPECT_EQ(element->GetCatalogId(), L"{ELBOW-1}");
+    EXPECT_EQ(element->GetTypeProviderId(), L"TEST_ELBOW");
+    EXPECT_EQ(element->GetElementNumber(), 1);
+    const AcDbObjectIdArray& ids = *element->GetObjects();
+    ASSERT_EQ(ids.length(), 4);
+    EXPECT_EQ(LayerOf(ids[0]), L"VOD_SCHEME");
+    EXPECT_EQ(sheet->GetDrawnEntitiesByComponent(L"01SCHEME")->length(), 4);
+    // Turned a quarter about (50, 50), then mirrored about its own axis: the left flange came
+    // below the centre and stayed there, the top flange went from above-left to below-right.
+    const auto flanges = CASFlange::Find(ids);
+    ASSERT_EQ(flanges.size(), 2u);
+    EXPECT_EQ(flanges[0].GetMidPoint(), AcGePoint3d(50, 40, 0));
+    EXPECT_EQ(flanges[1].GetMidPoint(), AcGePoint3d(60, 50, 0));
+
+    // The sheet's element survives a rescan, with the entity type of elements.
+    manager->ReloadInstanceStorage();
+    const auto read = manager->GetASIStorage()->GetASInstanceById(sheet->GetGuid().c_str());
+    ASSERT_TRUE(read);
+    ASSERT_EQ(read->GetElementInstances().size(), 1u);
+    EXPECT_EQ(read->GetElementInstances().begin()->second->GetObjects()->length(), 4);
+    EXPECT_FALSE(CASEditor::GetDragData()->AreButtonsShown());
+}
+
+TEST_F(ElementPlacement, CancellingOrPlacingOffEverySheetLeavesNothingDrawn) {
+    acedInputScript()->addScript(L"move 50,50; escape");
+    EXPECT_EQ(editor->DrawASElement(&item, eViewFront), 0);
+    acedInputScript()->addScript(L"pick 5000,5000");
+    EXPECT_EQ(editor->DrawASElement(&item, eViewFront), 0);
+    EXPECT_EQ(editor->DrawASElement(nullptr, eViewFront), 0);
+    EXPECT_TRUE(sheet->GetElementInstances().empty());
+    AcDbObjectPointer<AcDbBlockTableRecord> space(database->modelSpaceId(), AcDb::kForRead);
+    for (const AcDbObjectId& id : space->entityIds()) {
+        CXimoCEntityPtr entity(id, AcDb::kForRead);
+        EXPECT_FALSE(CASFlange::IsFlangeLine(entity.get())) << "left drawn: " << id.handle();
+    }
 }

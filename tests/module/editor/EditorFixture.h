@@ -93,7 +93,8 @@ protected:
     }
     // An elbow drawn at `at`: a flange facing left on the y axis, one facing up at (10, 10), and
     // its bend; the flange axes meet at (10, 0).
-    AcDbObjectIdArray Elbow(const AcGeVector3d& at = {0, 0, 0}) const {
+    AcDbObjectIdArray Elbow(const AcGeVector3d& at = {0, 0, 0}) const { return ElbowAt(at); }
+    AcDbObjectIdArray ElbowAt(const AcGeVector3d& at) const {
         const AcGePoint3d o = AcGePoint3d::kOrigin + at;
         return {Flange(o + AcGeVector3d(0, -3, 0), o + AcGeVector3d(0, 3, 0)),
                 Flange(o + AcGeVector3d(7, 10, 0), o + AcGeVector3d(13, 10, 0)),
