@@ -42,7 +42,7 @@ TEST_F(DefinitionsCommand, ListsAndShowsTheDemoSheets) {
     const auto show = Definitions("show 'A3 landscape'");
     ASSERT_EQ(show.code, 0) << show.err;
     EXPECT_EQ(show.out.rfind("definition \"A3 landscape\" {", 0), 0u) << show.out;
-    EXPECT_NE(show.out.find("  properties:\n    [Sheet]\n      LS_SCALE_X = 0.1  (Drawing scale)\n"
+    EXPECT_NE(show.out.find("  properties:\n    [Sheet]\n      LS_SCALE_X = 0.05  (Drawing scale)\n"
                             "      ASPW = 420  (Paper width)\n"),
               std::string::npos)
         << show.out;
