@@ -35,16 +35,6 @@ Data::CCatalogItem* FindItem(const std::wstring& reference, std::wstring& error)
     return nullptr;
 }
 
-// The point of an option, when given; false with a message for a malformed one.
-bool OptionalPoint(const CAschArguments& arguments, const char* name, std::optional<AcGePoint3d>& point,
-                   std::string& error) {
-    if (!arguments.GetValues().count(name)) return true;
-    AcGePoint3d value;
-    if (!CAschArguments::ParsePoint(name, arguments.GetValues()[name].as<std::string>(), value, error)) return false;
-    point = value;
-    return true;
-}
-
 }  // namespace
 
 void CAddElementCommand::DescribeArguments(CAschArguments& arguments) const {
@@ -66,12 +56,12 @@ int CAddElementCommand::Run(const CAschArguments& arguments, CAschConsole& conso
     if (!AssemblySchemes::ParseViewDirection(arguments.GetText("view"), view))
         return console.Fail(L"unknown view \"" + arguments.GetText("view") +
                             L"\"; use top, bottom, back, front, left or right");
-    std::optional<AcGePoint3d> at, elementFlange, schemeFlange;
+    AcGePoint3d at;
+    std::optional<AcGePoint3d> elementFlange, schemeFlange;
     std::string usage;
-    if (!OptionalPoint(arguments, "at", at, usage) || !OptionalPoint(arguments, "join-element-flange", elementFlange, usage) ||
-        !OptionalPoint(arguments, "join-scheme-flange", schemeFlange, usage))
+    if (!arguments.GetPoint("at", at, usage) || !arguments.GetPoint("join-element-flange", elementFlange, usage) ||
+        !arguments.GetPoint("join-scheme-flange", schemeFlange, usage))
         return console.Fail(usage);
-    if (!at) return console.Fail(std::string("no point given (--at X,Y)"));
 
     CSchemeDrawing drawing;
     std::wstring error;
@@ -81,11 +71,11 @@ int CAddElementCommand::Run(const CAschArguments& arguments, CAschConsole& conso
 
     // What the user does: bring the element, turn it, mirror it, take it by a flange, join it.
     AcEdInputScript* input = acedInputScript();
-    input->addMove(*at);
+    input->addMove(at);
     if (values.count("rotate")) {
         const double angle = values["rotate"].as<double>() * kPi / 180.0;
         input->addText(L"_Rot");
-        input->addMove(*at + AcGeVector3d(std::cos(angle), std::sin(angle), 0.0) * 100.0);
+        input->addMove(at + AcGeVector3d(std::cos(angle), std::sin(angle), 0.0) * 100.0);
     }
     if (values.count("mirror")) input->addText(L"_Mir");
     if (elementFlange) {
@@ -96,7 +86,7 @@ int CAddElementCommand::Run(const CAschArguments& arguments, CAschConsole& conso
         input->addText(L"_Scf");
         input->addPick(*schemeFlange);
     } else {
-        input->addPick(elementFlange ? *elementFlange : *at);
+        input->addPick(elementFlange ? *elementFlange : at);
     }
 
     auto* log = Workspace::CWsManager::Instance();

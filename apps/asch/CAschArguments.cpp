@@ -120,6 +120,23 @@ bool CAschArguments::ParsePoint(const std::string& option, const std::string& te
     return true;
 }
 
+bool CAschArguments::GetPoint(const char* name, AcGePoint3d& point, std::string& error) const {
+    if (!m_values.count(name)) {
+        error = std::string("no point given (--") + name + " X,Y)";
+        return false;
+    }
+    return ParsePoint(name, m_values[name].as<std::string>(), point, error);
+}
+
+bool CAschArguments::GetPoint(const char* name, std::optional<AcGePoint3d>& point, std::string& error) const {
+    point.reset();
+    if (!m_values.count(name)) return true;
+    AcGePoint3d value;
+    if (!ParsePoint(name, m_values[name].as<std::string>(), value, error)) return false;
+    point = value;
+    return true;
+}
+
 std::wstring CAschArguments::Wide(const char* name) const {
     return m_values.count(name) ? acutUtf8ToWchar(m_values[name].as<std::string>()) : std::wstring();
 }

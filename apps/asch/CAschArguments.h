@@ -47,6 +47,10 @@ public:
     // The point "X,Y" or "X,Y,Z" of an option; false with a message naming the option when the
     // text is not such a point.
     static bool ParsePoint(const std::string& option, const std::string& text, AcGePoint3d& point, std::string& error);
+    // The point of an option: false with a message when it was not given or is not a point.
+    bool GetPoint(const char* name, AcGePoint3d& point, std::string& error) const;
+    // The same for an option that may be left out: true, with `point` empty, when it was.
+    bool GetPoint(const char* name, std::optional<AcGePoint3d>& point, std::string& error) const;
     // The window when one was given.
     const std::optional<AcDbExtents>& GetWindow() const { return m_window; }
     const boost::program_options::variables_map& GetValues() const { return m_values; }

@@ -25,10 +25,9 @@ void CDrawCommand::DescribeArguments(CAschArguments& arguments) const {
 int CDrawCommand::Run(const CAschArguments& arguments, CAschConsole& console) const {
     const auto& values = arguments.GetValues();
     if (!values.count("definition")) return console.Fail(std::string("no definition given (--definition ID)"));
-    if (!values.count("at")) return console.Fail(std::string("no point given (--at X,Y)"));
     AcGePoint3d at;
     std::string usage;
-    if (!CAschArguments::ParsePoint("at", values["at"].as<std::string>(), at, usage)) return console.Fail(usage);
+    if (!arguments.GetPoint("at", at, usage)) return console.Fail(usage);
 
     CSchemeDrawing drawing;
     std::wstring error;
@@ -36,7 +35,8 @@ int CDrawCommand::Run(const CAschArguments& arguments, CAschConsole& console) co
     auto* definition = drawing.FindDefinition(arguments.GetText("definition"), error);
     if (!definition) return console.Fail(error);
     boost::shared_ptr<Topology::CNode> node;
-    if (values.count("node") && !(node = drawing.FindNode(arguments.GetText("node"), error))) return console.Fail(error);
+    if (values.count("node") && !(node = drawing.FindNode(arguments.GetText("node"), error)))
+        return console.Fail(error);
 
     CASEditor* editor = CASEditor::Instance();
     const auto sheet = editor->Draw(at, definition, node.get());

@@ -8,6 +8,7 @@
 #include "module/instances/CASInstanceStorage.h"
 #include "module/manager/CASManager.h"
 
+#include <optional>
 #include <sstream>
 
 namespace XimoGis::Asch {
@@ -53,12 +54,10 @@ int CGridCommand::Run(const CAschArguments& arguments, CAschConsole& console) co
             nodes.push_back(node);
         }
     }
-    if (values.count("at")) {
-        AcGePoint3d at;
-        std::string usage;
-        if (!CAschArguments::ParsePoint("at", values["at"].as<std::string>(), at, usage)) return console.Fail(usage);
-        acedInputScript()->addPick(at);
-    }
+    std::optional<AcGePoint3d> at;
+    std::string usage;
+    if (!arguments.GetPoint("at", at, usage)) return console.Fail(usage);
+    if (at) acedInputScript()->addPick(*at);
 
     const bool withNodes = values.count("nodes") || values.count("all-nodes");
     const std::size_t before = AssemblySchemes::CASManager::Instance()->GetASIStorage()->GetASRegistry().size();

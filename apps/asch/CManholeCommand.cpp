@@ -100,10 +100,9 @@ int CManholeCommand::RunOnScheme(const CAschArguments& arguments, CAschConsole& 
     if (arguments.GetWorkspace().empty()) return console.Fail(std::string("no workspace given (--workspace W)"));
     if (values.count("side") == values.count("top")) return console.Fail(std::string("give either --side or --top"));
     if (!values.count("scheme")) return console.Fail(std::string("no scheme given (--scheme ID)"));
-    if (!values.count("at")) return console.Fail(std::string("no point given (--at X,Y)"));
     AcGePoint3d at;
     std::string usage;
-    if (!CAschArguments::ParsePoint("at", values["at"].as<std::string>(), at, usage)) return console.Fail(usage);
+    if (!arguments.GetPoint("at", at, usage)) return console.Fail(usage);
     CSchemeDrawing drawing;
     std::wstring error;
     if (!drawing.Open(arguments.GetWorkspace(), arguments.GetDrawing(), error)) return console.Fail(error);

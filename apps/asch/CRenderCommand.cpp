@@ -43,7 +43,8 @@ int CRenderCommand::Run(const CAschArguments& arguments, CAschConsole& console) 
         if (arguments.GetWindow()) return console.Fail(std::string("give either --window or --scheme, not both"));
         AcDbExtents sheet;
         if (!FindSheet(db, arguments.GetText("scheme"), sheet))
-            return console.Fail(L"'" + arguments.GetDrawing() + L"' has no scheme sheet " + arguments.GetText("scheme"));
+            return console.Fail(L"'" + arguments.GetDrawing() + L"' has no scheme sheet " +
+                                arguments.GetText("scheme"));
         options.window = sheet;
     }
     const std::wstring output = arguments.GetOutput();

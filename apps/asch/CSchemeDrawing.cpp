@@ -60,7 +60,8 @@ CASDefinition* CSchemeDrawing::FindDefinition(const std::wstring& reference, std
     if (!definition) {
         CDefinitionRepository* repository = CRepositoryManager::GetSystemRepository(
             m_system, AssemblySchemes::CASRepository::kRepositoryKey, 0);
-        if (repository) definition = dynamic_cast<CASDefinition*>(repository->GetRepositoryItemByName(reference.c_str()));
+        if (repository)
+            definition = dynamic_cast<CASDefinition*>(repository->GetRepositoryItemByName(reference.c_str()));
     }
     if (!definition)
         error = L"system " + std::to_wstring(m_system->GetSystemId()) + L" has no scheme definition \"" + reference +

@@ -1,6 +1,5 @@
 #include "module/editor/CASEditor.h"
 
-#include "module/catalog/CASCatalog.h"
 #include "module/catalog/CASElementDrawing.h"
 #include "module/components/IASComponentInterface.h"
 #include "module/definitions/CASDefinition.h"
@@ -11,6 +10,7 @@
 #include "module/support/CASCheckMark.h"
 #include "module/support/CASEntityGroup.h"
 #include "module/support/CASFormat.h"
+#include "module/support/CASSelectionSet.h"
 
 #include "framework/cad/CXimoCDocLock.h"
 #include "framework/cad/CXimoCDraw.h"
@@ -32,11 +32,9 @@
 #include "host/entities/AcDbBlockReference.h"
 #include "host/entities/AcDbLine.h"
 #include "host/entities/AcDbMText.h"
-#include "host/input/acdbAdsName.h"
 #include "host/input/acedDragGen.h"
 #include "host/input/acedGraphics.h"
 #include "host/input/acedInput.h"
-#include "host/input/acedSelectionSet.h"
 
 #include <boost/make_shared.hpp>
 
@@ -82,28 +80,6 @@ CASComponentData* ComponentOfType(CASDefinition* definition, const std::wstring&
     }
     return nullptr;
 }
-
-// Selection sets name the entities to the host's drag; freed when the object goes.
-class CSelection {
-public:
-    explicit CSelection(const AcDbObjectIdArray& ids) {
-        ads_name_clear(m_set);
-        for (const AcDbObjectId& id : ids) {
-            ads_name entity;
-            if (acdbGetAdsName(entity, id) != Acad::eOk) continue;
-            acedSSAdd(entity, ads_name_nil(m_set) ? nullptr : m_set, m_set);
-        }
-    }
-    ~CSelection() {
-        if (!ads_name_nil(m_set)) acedSSFree(m_set);
-    }
-    CSelection(const CSelection&) = delete;
-    CSelection& operator=(const CSelection&) = delete;
-    const ads_name& Get() const { return m_set; }
-
-private:
-    ads_name m_set;
-};
 
 void SetTranslation(ads_matrix matrix, const AcGeVector3d& v) {
     for (int r = 0; r < 4; ++r)
@@ -180,7 +156,9 @@ int CASEditor::Draw(CASDefinition* definition, int rows, int columns, double gap
     m_collected.removeAll();
     CASManager* manager = CASManager::Instance();
     manager->ReloadInstanceStorage();
-    const std::size_t count = nodes ? nodes->size() : static_cast<std::size_t>(std::max(rows, 0)) * std::max(columns, 0);
+    const std::size_t cells =
+        static_cast<std::size_t>(std::max(rows, 0)) * static_cast<std::size_t>(std::max(columns, 0));
+    const std::size_t count = nodes ? nodes->size() : cells;
     const double width = definition->GetPaperWidth();
     const double height = definition->GetPaperHeight();
 
@@ -257,8 +235,7 @@ void CASEditor::DeleteASInstances(const std::wstring& definitionId, int) {
 
 void CASEditor::DeleteASInstances() {
     CASManager* manager = CASManager::Instance();
-    // The schemes of every system go, so that a system being deleted takes no scheme's entities
-    // with it while the scheme stays half drawn.
+    // The schemes of every system: the event responder deletes them all whichever system goes.
     manager->ReloadInstanceStorage();
     InstanceVector instances;
     for (const auto& [id, instance] : manager->GetASIStorage()->GetASRegistry()) instances.push_back(instance);
@@ -305,15 +282,16 @@ int CASEditor::DrawASElement(Data::CCatalogItem* item, enmViewDirection view) {
 }
 
 int CASEditor::DragElement(const AcDbObjectIdArray& ids) {
-    AcGePoint3d centre;
+    // An element drawn from its block file is one block reference, its flange lines inside.
     CXimoCEntityPtr first(ids.first(), AcDb::kForRead);
     auto* block = ids.length() == 1 ? dynamic_cast<AcDbBlockReference*>(first.get()) : nullptr;
-    centre = block ? GetBlockCenterPoint(block) : AcGePoint3d();
+    const AcGePoint3d centre = block ? GetBlockCenterPoint(block) : GetCenterPoint(ids);
     first.close();
-    if (!block) centre = GetCenterPoint(ids);
     m_pDragGenData_Draw->Start(ids, centre, &m_mover,
                                [this](const AcGePoint3d& point) { return GetInstanceByPosition(point); });
 
+    // The host's wide formats "%s %s %s %s" and "%s %s %s %s _ Rot Mir Elf Scf"; here "%ls" takes
+    // the wide words.
     using Messages = CModuleConfiguration;
     const std::wstring words[] = {Messages::GetMsg(kElementFlangeMessage), Messages::GetMsg(kSchemeFlangeMessage),
                                   Messages::GetMsg(kMirrorMessage), Messages::GetMsg(kRotateMessage)};
@@ -321,7 +299,7 @@ int CASEditor::DragElement(const AcDbObjectIdArray& ids) {
         CASFormat::Format(L"%ls %ls %ls %ls", words[0].c_str(), words[1].c_str(), words[2].c_str(), words[3].c_str());
     const std::wstring keywords = CASFormat::Format(L"%ls %ls %ls %ls _ Rot Mir Elf Scf", words[0].c_str(),
                                                     words[1].c_str(), words[2].c_str(), words[3].c_str());
-    const CSelection selection(ids);
+    const CASSelectionSet selection(ids);
     for (;;) {
         acedInitGet(kPlacementInputFlags, keywords.c_str());
         ads_point picked;
@@ -452,7 +430,7 @@ int CASEditor::DrawCallback(ads_point cursor, ads_matrix matrix) {
 }
 
 bool CASEditor::DragGroup(const AcDbObjectIdArray& ids, const AcGePoint3d& base, AcGePoint3d& picked) {
-    const CSelection selection(ids);
+    const CASSelectionSet selection(ids);
     m_ptASGroupBP = base;
     const std::wstring prompt = CModuleConfiguration::GetMsg(kPickPointMessage);
     ads_point point;
@@ -505,7 +483,8 @@ int CASEditor::DrawManholeView(int side) {
     const wchar_t* componentId = side ? L"05MANH_S" : L"05MANH_T";
     if (!definition || !node || !ComponentOfType(definition, componentId)) return 0;
     using ManholeScheme::CMSManager;
-    const auto drawData = CMSManager::Instance()->GetComponentById(side ? CMSManager::kFrontViewId : CMSManager::kTopViewId);
+    const auto drawData =
+        CMSManager::Instance()->GetComponentById(side ? CMSManager::kFrontViewId : CMSManager::kTopViewId);
     const auto scale = drawData ? drawData->GetProperties()->GetProperty(L"MSMS_SCALE") : nullptr;
     if (!scale) return 0;
     scale->SetHiddenValue(definition->GetScale()->x());

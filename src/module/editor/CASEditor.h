@@ -127,7 +127,6 @@ public:
 
     // The list of entities collected by the sheet drawing (every sheet frame since the last grid).
     const AcDbObjectIdArray& GetCollectedEntities() const { return m_collected; }
-    CASEntityMover& GetMover() { return m_mover; }
 
     // The placement drag's state, made with the editor.
     static CDragGenData_Draw* GetDragData() { return m_pDragGenData_Draw; }
@@ -136,7 +135,7 @@ private:
     CASEditor() = default;
 
     // Hides every grip button whose type is not wholly within the mask (0 hides them all) and
-    // marks the buttons as not shown for the placement drag.
+    // marks the buttons as not shown for the placement drag. Without windows only the mark is made.
     static void HideASButtons(unsigned int mask);
     // Drag callbacks: the group follows the cursor from m_ptASGroupBP; the element being placed
     // acts on the cursor as its placement mode says.

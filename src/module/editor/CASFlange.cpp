@@ -46,7 +46,8 @@ std::vector<CASFlange::Free> CASFlange::FindFree(const CASInstance& sheet, doubl
     std::vector<Free> all;
     for (const auto& [id, element] : sheet.GetElementInstances()) {
         AcDbExtents box;
-        const AcGePoint3d owner = CASEntityGroup::GetExtents(*element->GetObjects(), box) ? box.center() : AcGePoint3d();
+        const AcGePoint3d owner =
+            CASEntityGroup::GetExtents(*element->GetObjects(), box) ? box.center() : AcGePoint3d();
         for (const CASFlange& flange : Find(*element->GetObjects())) all.push_back({flange, owner});
     }
     std::vector<Free> free;

@@ -42,23 +42,18 @@ protected:
 }  // namespace
 
 TEST_F(ManholeOnScheme, DrawsTheViewsOfTheSheetsNodeOnTheSheet) {
-    const auto chamber = Run("draw", "--definition 'A3 landscape' --node Z-3 --at 0,0");
-    ASSERT_EQ(chamber.code, 0) << chamber.err;
-    const std::string id = SchemeId(chamber);
-    const auto side = Run("manhole", "--scheme " + id + " --side --at 100,150");
-    ASSERT_EQ(side.code, 0) << side.err;
-    EXPECT_EQ(side.out, "drew the manhole side view into " + folder / "schemes.dxf" + "\n");
-    ASSERT_EQ(Run("manhole", "--scheme " + id + " --top --at 300,150").code, 0);
-    const auto listed = List();
-    EXPECT_NE(listed.out.find("05MANH_S "), std::string::npos) << listed.out;
-    EXPECT_NE(listed.out.find("05MANH_T "), std::string::npos) << listed.out;
+    const std::string chamber = SchemeId(Run("draw", "--definition 'A3 landscape' --node Z-3 --at 0,0"));
+    const auto side = Run("manhole", "--scheme " + chamber + " --side --at 100,150");
+    EXPECT_EQ(side.out, "drew the manhole side view into " + folder / "schemes.dxf" + "\n") << side.err;
+    ASSERT_EQ(Run("manhole", "--scheme " + chamber + " --top --at 300,150").code, 0);
+    const auto listed = List().out;
+    EXPECT_NE(listed.find("05MANH_S "), std::string::npos) << listed;
+    EXPECT_NE(listed.find("05MANH_T "), std::string::npos) << listed;
 
-    const auto junction = Run("draw", "--definition 'A4 portrait' --node Č-1 --at 500,0");
-    const auto refused = Run("manhole", "--scheme " + SchemeId(junction) + " --top --at 600,100");
-    EXPECT_EQ(refused.code, 1);
-    EXPECT_EQ(refused.err, "asch manhole: The node has no manhole to draw: 'Č-1'\n");
-    EXPECT_EQ(Run("manhole", "--scheme " + id + " --side --top --at 1,1").err,
+    const std::string junction = SchemeId(Run("draw", "--definition 'A4 portrait' --node Č-1 --at 500,0"));
+    EXPECT_EQ(Run("manhole", "--scheme " + junction + " --top --at 600,100").err,
+              "asch manhole: The node has no manhole to draw: 'Č-1'\n");
+    EXPECT_EQ(Run("manhole", "--scheme " + chamber + " --side --top --at 1,1").err,
               "asch manhole: give either --side or --top\n");
-    EXPECT_EQ(Run("manhole", "--scheme {NONE} --side --at 1,1").code, 1);
     EXPECT_EQ(run("manhole").err, "asch manhole: no folder given\n");
 }

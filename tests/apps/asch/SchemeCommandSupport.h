@@ -1,6 +1,5 @@
 #pragma once
-// A demo workspace and a drawing in a fresh folder, for the commands that draw schemes into a
-// workspace drawing.
+// A demo workspace and a drawing in a fresh folder, for the commands that draw schemes.
 
 #include <gtest/gtest.h>
 
@@ -21,16 +20,11 @@ protected:
         return run(command + " --workspace " + workspace + " --drawing " + drawing + " " + options);
     }
     Result List() const { return run("list " + drawing + " --workspace " + workspace); }
-    // The scheme id that "asch draw" reports.
+    // The scheme id that "asch draw" tells.
     static std::string SchemeId(const Result& drawn) {
         std::smatch match;
         return std::regex_search(drawn.out, match, std::regex(R"(drew scheme (\{[0-9A-F-]+\}))")) ? match[1].str()
                                                                                                     : "";
-    }
-    static int Count(const std::string& text, const std::string& part) {
-        int count = 0;
-        for (auto at = text.find(part); at != std::string::npos; at = text.find(part, at + 1)) ++count;
-        return count;
     }
 
     TempFolder folder;

@@ -1,10 +1,8 @@
 #include "module/editor/CASEditor.h"
 
+#include "module/editor/CASFlange.h"
 #include "module/editor/EditorFixture.h"
 
-#include "module/editor/CASFlange.h"
-
-#include "framework/cad/CXimoCDraw.h"
 #include "framework/catalog/CCatalogItem.h"
 #include "framework/topology/CNode.h"
 #include "framework/ui/CProgressBar.h"
@@ -12,8 +10,8 @@
 #include "host/entities/AcDbBlockReference.h"
 #include "host/entities/AcDbMText.h"
 #include "host/entities/AcDbPoint.h"
-#include "host/input/AcEdScreen.h"
 #include "host/entities/AcDbPolyline.h"
+#include "host/input/AcEdScreen.h"
 
 #include <algorithm>
 #include <functional>
@@ -22,6 +20,8 @@
 
 using namespace XimoGis::AssemblySchemes;
 using XimoGis::CXimoCEntityPtr;
+using XimoGis::Data::CPropertyEx;
+using XimoGis::Data::enmPropertyValueType;
 using XimoGis::Topology::CNode;
 
 namespace {
@@ -29,11 +29,10 @@ namespace {
 class EditorTest : public Testing::EditorFixture {
 protected:
     static AcGePoint3d PointAt(AcDbObjectId id) {
-        CXimoCEntityPtr entity(id, AcDb::kForRead);
-        const auto* point = dynamic_cast<const AcDbPoint*>(entity.get());
+        AcDbObjectPointer<AcDbPoint> point(id, AcDb::kForRead);
         return point ? point->position() : AcGePoint3d(-1, -1, -1);
     }
-    // Stored sheets by base point (x, y), in storage order.
+    // The stored sheets' base points and nodes, from the lowest row, left to right.
     std::vector<std::pair<AcGePoint3d, std::wstring>> Sheets() const {
         std::vector<std::pair<AcGePoint3d, std::wstring>> sheets;
         for (const auto& [id, sheet] : manager->GetASIStorage()->GetASRegistry()) {
@@ -46,17 +45,11 @@ protected:
         });
         return sheets;
     }
-    static CASEditor::NodeVector Nodes(int count) {
-        CASEditor::NodeVector nodes;
-        for (int i = 0; i < count; ++i)
-            nodes.push_back(boost::make_shared<CNode>(1, L"{N" + std::to_wstring(i) + L"}", L"N", AcGePoint3d()));
-        return nodes;
-    }
 };
 
 }  // namespace
 
-TEST_F(EditorTest, OneSheetHasItsCornerPointsItsPaperFrameAndItsComponentsOnTheirLayers) {
+TEST_F(EditorTest, OneSheetHasCornerPointsAPaperFrameAtZeroAndItsComponentsOnTheirLayers) {
     auto definition = Definition(210, 297, 1, {L"00FRAME", L"01CMMNT"});
     definition->GetProperties()->SetPropertyValue(L"ASFLC", 0x10003);  // only the low 16 bits count
     definition->GetProperties()->SetPropertyValue(L"ASFLLT", L"DASHED");
@@ -66,37 +59,22 @@ TEST_F(EditorTest, OneSheetHasItsCornerPointsItsPaperFrameAndItsComponentsOnThei
     ASSERT_TRUE(sheet);
     EXPECT_EQ(sheet->GetDefinitionId(), definition->GetId());
     EXPECT_EQ(sheet->GetRefNode(), L"{NODE-1}");
-    EXPECT_EQ(sheet->GetWidth(), 210.0);
-    EXPECT_EQ(sheet->GetHeight(), 297.0);
-
-    EXPECT_EQ(PointAt(sheet->GetId()), AcGePoint3d(100, 200, 7.5));
     EXPECT_EQ(PointAt(sheet->GetSecondGeneralEntity()), AcGePoint3d(310, 497, 7.5));
-    EXPECT_EQ(LayerOf(sheet->GetId()), L"VOD_SCHEME_NP");
     EXPECT_EQ(LayerOf(sheet->GetSecondGeneralEntity()), L"VOD_SCHEME_NP");
 
-    // The paper frame lies at z = 0 whatever the base point's elevation.
-    CXimoCEntityPtr entity(sheet->GetThirdGeneralEntity(), AcDb::kForRead);
-    const auto* frame = dynamic_cast<const AcDbPolyline*>(entity.get());
-    ASSERT_NE(frame, nullptr);
+    AcDbObjectPointer<AcDbPolyline> frame(sheet->GetThirdGeneralEntity(), AcDb::kForRead);
+    ASSERT_TRUE(frame);
     EXPECT_TRUE(frame->isClosed());
     EXPECT_EQ(frame->elevation(), 0.0);
-    ASSERT_EQ(frame->numVerts(), 4u);
-    AcGePoint3d corner;
-    frame->getPointAt(2, corner);
-    EXPECT_EQ(corner, AcGePoint3d(310, 497, 0));
     EXPECT_EQ(frame->colorIndex(), 3);
     EXPECT_EQ(frame->linetype(), L"DASHED");
-    entity.close();
-    ASSERT_FALSE(editor->GetCollectedEntities().isEmpty());
+    frame.close();
     EXPECT_EQ(editor->GetCollectedEntities().last(), sheet->GetThirdGeneralEntity());
 
-    const AcDbObjectIdArray* frameLines = sheet->GetDrawnEntitiesByComponent(L"00FRAME");
-    ASSERT_NE(frameLines, nullptr);
-    EXPECT_EQ(frameLines->length(), 4);
-    EXPECT_EQ(LayerOf(frameLines->first()), L"VOD_FRAME");
-    EXPECT_EQ(sheet->GetDrawnEntitiesByComponent(L"01CMMNT"), nullptr);  // interactive: drawn later
-    // Not stored until the caller does it.
-    EXPECT_TRUE(manager->GetASIStorage()->GetASRegistry().empty());
+    ASSERT_NE(sheet->GetDrawnEntitiesByComponent(L"00FRAME"), nullptr);
+    EXPECT_EQ(LayerOf(sheet->GetDrawnEntitiesByComponent(L"00FRAME")->first()), L"VOD_FRAME");
+    EXPECT_EQ(sheet->GetDrawnEntitiesByComponent(L"01CMMNT"), nullptr);  // interactive: placed later
+    EXPECT_TRUE(manager->GetASIStorage()->GetASRegistry().empty());  // storing is the caller's
 }
 
 TEST_F(EditorTest, WithoutThePaperFrameASheetStillHasBothCornerPointsAndReadsBackWhole) {
@@ -105,17 +83,12 @@ TEST_F(EditorTest, WithoutThePaperFrameASheetStillHasBothCornerPointsAndReadsBac
     EXPECT_TRUE(sheet->GetThirdGeneralEntity().isNull());
     EXPECT_EQ(PointAt(sheet->GetId()), AcGePoint3d(0, 0, 0));
     EXPECT_EQ(PointAt(sheet->GetSecondGeneralEntity()), AcGePoint3d(420, 297, 0));
-
     manager->ReloadInstanceStorage();
     const auto read = manager->GetASIStorage()->GetASInstanceById(sheet->GetGuid().c_str());
-    ASSERT_TRUE(read);
+    ASSERT_TRUE(read && read->GetDrawnEntitiesByComponent(L"00FRAME"));
     EXPECT_EQ(read->GetDefinitionId(), definition->GetId());
     EXPECT_EQ(read->GetWidth(), 420.0);
-    EXPECT_EQ(read->GetSecondGeneralEntity(), sheet->GetSecondGeneralEntity());
-    ASSERT_NE(read->GetDrawnEntitiesByComponent(L"00FRAME"), nullptr);
     EXPECT_EQ(read->GetDrawnEntitiesByComponent(L"00FRAME")->length(), 4);
-    AcGePoint3d origin;
-    EXPECT_FALSE(editor->Draw(origin, nullptr, nullptr));
 }
 
 TEST_F(EditorTest, AGridWithoutNodesDrawsRowsTimesColumnsSheetsUpwardsOnTheSchemeLayer) {
@@ -126,30 +99,25 @@ TEST_F(EditorTest, AGridWithoutNodesDrawsRowsTimesColumnsSheetsUpwardsOnTheSchem
     EXPECT_EQ(editor->Draw(definition.get(), 2, 3, 10.0, 20.0, nullptr), 1);
     XimoGis::UI::CProgressBar::Instance()->SetSink(nullptr);
 
+    manager->ReloadInstanceStorage();  // stored on the drawing
     const auto sheets = Sheets();
     ASSERT_EQ(sheets.size(), 6u);
-    EXPECT_EQ(sheets[0].first, AcGePoint3d(1000, 500, 0));
     EXPECT_EQ(sheets[2].first, AcGePoint3d(1440, 500, 0));
-    EXPECT_EQ(sheets[3].first, AcGePoint3d(1000, 817, 0));  // the second row lies above the first
+    EXPECT_EQ(sheets[3].first, AcGePoint3d(1000, 817, 0));  // the second row above the first
     for (const auto& [base, node] : sheets) EXPECT_TRUE(node.empty());
     ASSERT_EQ(editor->GetCollectedEntities().length(), 6);
-    for (const AcDbObjectId& frame : editor->GetCollectedEntities()) EXPECT_EQ(LayerOf(frame), L"VOD_SCHEME");
-    ASSERT_FALSE(drawn.empty());
+    EXPECT_EQ(LayerOf(editor->GetCollectedEntities().last()), L"VOD_SCHEME");
     EXPECT_EQ(drawn.front().rfind("\rDrawing assembly schemes... [", 0), 0u);
-    EXPECT_NE(std::find_if(drawn.begin(), drawn.end(),
-                           [](const std::string& line) { return line.find("100%") != std::string::npos; }),
-              drawn.end());
-    EXPECT_FALSE(XimoGis::UI::CProgressBar::Instance()->IsVisible());
-
-    // The sheets are stored on the drawing: a rescan finds them.
-    manager->ReloadInstanceStorage();
-    EXPECT_EQ(manager->GetASIStorage()->GetASRegistry().size(), 6u);
 }
 
-TEST_F(EditorTest, AGridGrowsRowsUntilEveryNodeHasItsSheet) {
+TEST_F(EditorTest, AGridGrowsRowsForMoreNodesAndCancellingOrNoActiveSystemDrawsNothing) {
     auto definition = Definition(100, 50, 0);
-    auto nodes = Nodes(5);
-    acedInputScript()->addPick({0, 0, 0});
+    CASEditor::NodeVector nodes;
+    for (int i = 0; i < 5; ++i)
+        nodes.push_back(boost::make_shared<CNode>(1, L"{N" + std::to_wstring(i) + L"}", L"N", AcGePoint3d()));
+    acedInputScript()->addScript(L"escape; pick 0,0");
+    EXPECT_EQ(editor->Draw(definition.get(), 1, 2, 0.0, 0.0, &nodes), 0);
+    EXPECT_TRUE(Sheets().empty());
     ASSERT_EQ(editor->Draw(definition.get(), 1, 2, 0.0, 0.0, &nodes), 1);
     const auto sheets = Sheets();
     ASSERT_EQ(sheets.size(), 5u);
@@ -157,98 +125,60 @@ TEST_F(EditorTest, AGridGrowsRowsUntilEveryNodeHasItsSheet) {
         EXPECT_EQ(sheets[i].first, AcGePoint3d((i % 2) * 100.0, (i / 2) * 50.0, 0)) << i;
         EXPECT_EQ(sheets[i].second, L"{N" + std::to_wstring(i) + L"}");
     }
-    auto none = Nodes(0);
+    std::wstring error;
+    ASSERT_TRUE(systems->SetActiveSystem(nullptr, error));
     acedInputScript()->addPick({0, 500, 0});
-    EXPECT_EQ(editor->Draw(definition.get(), 3, 3, 0.0, 0.0, &none), 1);  // an empty list draws nothing
+    EXPECT_EQ(editor->Draw(definition.get(), 1, 1, 0.0, 0.0, nullptr), 0);
     EXPECT_EQ(Sheets().size(), 5u);
 }
 
-TEST_F(EditorTest, CancellingTheBasePointOrHavingNoActiveSystemDrawsNothing) {
-    auto definition = Definition(210, 297, 1, {L"00FRAME"});
-    acedInputScript()->addEscape();
-    EXPECT_EQ(editor->Draw(definition.get(), 2, 2, 0.0, 0.0, nullptr), 0);
-    EXPECT_EQ(editor->Draw(definition.get(), 2, 2, 0.0, 0.0, nullptr), 0);  // empty script: cancelled too
-    manager->ReloadInstanceStorage();
-    EXPECT_TRUE(manager->GetASIStorage()->GetASRegistry().empty());
-
-    std::wstring error;
-    ASSERT_TRUE(systems->SetActiveSystem(nullptr, error));
-    acedInputScript()->addPick({0, 0, 0});
-    EXPECT_EQ(editor->Draw(definition.get(), 1, 1, 0.0, 0.0, nullptr), 0);
-    EXPECT_FALSE(XimoGis::UI::CProgressBar::Instance()->IsVisible());
-    EXPECT_TRUE(Sheets().empty());
-}
-
-TEST_F(EditorTest, SetLayerRecreatesMissingLayersOnceAndTestsOnlyTheActiveSystemsTopology) {
-    const AcDbObjectId line = XimoGis::CXimoCDraw::line({0, 0, 0}, {1, 1, 0}).objectId();
+TEST_F(EditorTest, SetLayerMakesMissingLayersAndTestsOnlyTheActiveSystemsTopology) {
+    const AcDbObjectId line = Line({0, 0, 0}, {1, 1, 0});
     EXPECT_TRUE(database->layerId(L"VOD_COMMENTS").isNull());
-    editor->SetLayer(line, nullptr, L"01CMMNT");  // the drawing lacks the layer: made
+    editor->SetLayer(line, nullptr, L"01CMMNT");
     EXPECT_EQ(LayerOf(line), L"VOD_COMMENTS");
     editor->SetLayer(line, nullptr, L"NO_SUCH_REFERENCE");
     EXPECT_EQ(LayerOf(line), L"VOD_COMMENTS");
-
     std::wstring error;
     auto* gas = systems->CreateSystem(3, L"Plin", 4, {{L"SCHEME", L"GAS_SCHEME", 3, L"Continuous"}}, error);
-    ASSERT_TRUE(gas) << error;
     editor->SetLayer(line, gas, L"SCHEME");  // passed in: its topology type is not asked
     EXPECT_EQ(LayerOf(line), L"GAS_SCHEME");
     ASSERT_TRUE(systems->SetActiveSystem(gas, error));
-    editor->SetLayer(line, nullptr, L"SCHEME");  // active but carries no schemes
+    editor->SetLayer(line, nullptr, L"SCHEME");  // active, but it carries no schemes
     EXPECT_EQ(LayerOf(line), L"GAS_SCHEME");
-    ASSERT_TRUE(systems->SetActiveSystem(water, error));
-    editor->SetLayer(AcDbObjectIdArray{AcDbObjectId(), line}, nullptr, L"SCHEME");  // a null id is passed over
-    EXPECT_EQ(LayerOf(line), L"VOD_SCHEME");
 }
 
 TEST_F(EditorTest, SheetsAreDeletedOneByOneByDefinitionOrAll) {
     auto a4 = Definition(210, 297, 1, {L"00FRAME"});
-    auto a3 = Definition(420, 297, 1, {L"00FRAME"});
+    auto a3 = Definition(420, 297, 1);
     const auto first = DrawStored(*a4, {0, 0, 0});
     const auto second = DrawStored(*a4, {300, 0, 0});
     const auto third = DrawStored(*a3, {600, 0, 0});
-    const auto fourth = DrawStored(*a3, {1100, 0, 0});
-
     CASEditor::InstanceVector one{first};
     editor->DeleteASInstances(one);
-    EXPECT_TRUE(IsErased(first->GetId()));
-    EXPECT_TRUE(IsErased(first->GetDrawnEntitiesByComponent(L"00FRAME")->first()));
-    EXPECT_FALSE(IsErased(second->GetId()));
-    EXPECT_EQ(manager->GetASIStorage()->GetASRegistry().size(), 3u);
-
-    editor->DeleteASInstances(a3->GetId(), 0);
-    EXPECT_TRUE(IsErased(third->GetThirdGeneralEntity()));
-    EXPECT_TRUE(IsErased(fourth->GetSecondGeneralEntity()));
-    EXPECT_FALSE(IsErased(second->GetId()));
-    ASSERT_EQ(manager->GetASIStorage()->GetASRegistry().size(), 1u);
+    EXPECT_TRUE(first->GetDrawnEntitiesByComponent(L"00FRAME")->first().isErased());
+    EXPECT_EQ(manager->GetASIStorage()->GetASRegistry().size(), 2u);
     editor->DeleteASInstances(L"{def-2}", 0);  // ids compare exactly
-    EXPECT_EQ(manager->GetASIStorage()->GetASRegistry().size(), 1u);
-
+    EXPECT_EQ(manager->GetASIStorage()->GetASRegistry().size(), 2u);
+    editor->DeleteASInstances(a3->GetId(), 0);
+    EXPECT_TRUE(third->GetThirdGeneralEntity().isErased());
+    EXPECT_FALSE(second->GetId().isErased());
     editor->DeleteASInstances();
-    EXPECT_TRUE(IsErased(second->GetId()));
+    EXPECT_TRUE(second->GetId().isErased());
     EXPECT_TRUE(manager->GetASIStorage()->GetASRegistry().empty());
-}
-
-TEST_F(EditorTest, TheSheetUnderAPointIsFoundByItsRectangle) {
-    auto definition = Definition(210, 297, 0);
-    const auto left = DrawStored(*definition, {0, 0, 0});
-    const auto right = DrawStored(*definition, {300, 0, 0});
-    EXPECT_EQ(editor->GetInstanceByPosition({100, 100, 0}), left);
-    EXPECT_EQ(editor->GetInstanceByPosition({510, 297, 3}), right);
-    EXPECT_FALSE(editor->GetInstanceByPosition({250, 100, 0}));
 }
 
 TEST_F(EditorTest, TheCentreOfAGroupIsWhereItsFlangeAxesMeetAndEachCandidateIsShown) {
     acedScreen()->redraw();
-    EXPECT_EQ(CASEditor::GetCenterPoint(Elbow({5, 5, 0})), AcGePoint3d(15, 5, 0));
+    const AcDbObjectIdArray elbow = Elbow({5, 5, 0});
+    EXPECT_EQ(CASEditor::GetCenterPoint(elbow), AcGePoint3d(15, 5, 0));
     EXPECT_FALSE(acedScreen()->transientVectors().empty());
-    // A pipe piece: both axes on one line, whose point nearest the middle of the box is taken.
+    // A pipe piece: its axes are one line, whose point nearest the middle of the box is taken.
     const AcDbObjectIdArray pipe{Flange({0, -3, 0}, {0, 3, 0}), Flange({20, -3, 0}, {20, 3, 0}),
                                  Line({0, 5, 0}, {20, 5, 0})};
     EXPECT_EQ(CASEditor::GetCenterPoint(pipe), AcGePoint3d(10, 0, 0));
     EXPECT_EQ(CASEditor::GetCenterPoint(AcDbObjectIdArray{pipe[0], pipe[2]}), AcGePoint3d(10, 0, 0));
-    const AcDbObjectIdArray plain{Line({0, 0, 0}, {10, 4, 0})};
-    EXPECT_EQ(CASEditor::GetCenterPoint(plain), AcGePoint3d(5, 2, 0));
-    EXPECT_EQ(CASEditor::GetCenterPoint(AcDbObjectIdArray{}), AcGePoint3d::kOrigin);
+    EXPECT_EQ(CASEditor::GetCenterPoint(AcDbObjectIdArray{Line({0, 0, 0}, {10, 4, 0})}), AcGePoint3d(5, 2, 0));
 
     EXPECT_EQ(CASEditor::GetBlockCenterPoint(nullptr), AcGePoint3d::kOrigin);
     AcDbBlockTable* blocks = nullptr;
@@ -258,80 +188,40 @@ TEST_F(EditorTest, TheCentreOfAGroupIsWhereItsFlangeAxesMeetAndEachCandidateIsSh
     AcDbObjectId block;
     blocks->add(block, record);
     blocks->close();
-    const AcDbObjectIdArray parts = Elbow();
-    for (const AcDbObjectId& part : parts) {
+    for (const AcDbObjectId& part : elbow) {
         CXimoCEntityPtr entity(part, AcDb::kForRead);
         record->appendAcDbEntity(static_cast<AcDbEntity*>(entity->clone()));
     }
     record->close();
     AcDbBlockReference reference({100, 50, 0}, block);
-    EXPECT_EQ(CASEditor::GetBlockCenterPoint(&reference), AcGePoint3d(110, 50, 0));
+    EXPECT_EQ(CASEditor::GetBlockCenterPoint(&reference), AcGePoint3d(115, 55, 0));
 }
 
 TEST_F(EditorTest, CommentsOnASheetTakeTheCommentComponentsTextSettingsAndBelongToTheSheet) {
-    auto definition = Definition(210, 297, 0, {L"01SCHEME", L"01CMMNT"});
-    for (const auto& [id, component] : definition->GetComponents()) {
-        if (component->GetId() != L"01CMMNT") continue;
-        auto& properties = *component->GetDrawData()->GetProperties();
-        properties.AddCategory(0, 0, 0);
-        properties.AddProperty(0, boost::make_shared<XimoGis::Data::CPropertyEx>(
-                                      L"TEXT_HEIGHT", XimoGis::Data::enmPropertyValueType::Double));
-        properties.AddProperty(0, boost::make_shared<XimoGis::Data::CPropertyEx>(
-                                      L"TEXT_COLOR", XimoGis::Data::enmPropertyValueType::Integer));
-        properties.SetPropertyValue(L"TEXT_HEIGHT", 3.5);
-        properties.SetPropertyValue(L"TEXT_COLOR", 0x10002);
-    }
+    auto definition = Definition(210, 297, 0, {L"01CMMNT"});
+    auto& settings = *definition->GetComponents().begin()->second->GetDrawData()->GetProperties();
+    settings.AddCategory(0, 0, 0);
+    settings.AddProperty(0, boost::make_shared<CPropertyEx>(L"TEXT_HEIGHT", enmPropertyValueType::Double));
+    settings.AddProperty(0, boost::make_shared<CPropertyEx>(L"TEXT_COLOR", enmPropertyValueType::Integer));
+    settings.SetPropertyValue(L"TEXT_HEIGHT", 3.5);
+    settings.SetPropertyValue(L"TEXT_COLOR", 0x10002);
     Store({definition.get()});
     const auto sheet = DrawStored(*definition, {0, 0, 0});
-
-    const std::size_t prompts = acedInputScript()->prompts().size();
     editor->DrawComment(L"");
-    EXPECT_EQ(acedInputScript()->prompts().size(), prompts);  // an empty text asks nothing
+    EXPECT_TRUE(acedInputScript()->prompts().empty());  // an empty text asks nothing
 
     acedInputScript()->addScript(L"pick 50,60; pick 500,500; enter");
     editor->DrawComment(L"Check the valve");
     EXPECT_EQ(acedInputScript()->prompts().back(), L"Pick the insertion point");
     const AcDbObjectIdArray* comments = sheet->GetDrawnEntitiesByComponent(L"01CMMNT");
-    ASSERT_NE(comments, nullptr);
-    ASSERT_EQ(comments->length(), 1);
-    CXimoCEntityPtr entity(comments->first(), AcDb::kForRead);
-    const auto* comment = dynamic_cast<const AcDbMText*>(entity.get());
-    ASSERT_NE(comment, nullptr);
+    ASSERT_TRUE(comments && comments->length() == 1);
+    AcDbObjectPointer<AcDbMText> comment(comments->first(), AcDb::kForRead);
+    ASSERT_TRUE(comment);
     EXPECT_EQ(comment->contents(), L"Check the valve");
     EXPECT_EQ(comment->location(), AcGePoint3d(50, 60, 0));
     EXPECT_EQ(comment->textHeight(), 3.5);
     EXPECT_EQ(comment->colorIndex(), 2);
     EXPECT_EQ(comment->layer(), L"VOD_SCHEME");
-    entity.close();
-
-    // The copy off the sheets stays as it was made; the prototype is gone.
-    int texts = 0;
-    AcDbObjectPointer<AcDbBlockTableRecord> space(database->modelSpaceId(), AcDb::kForRead);
-    for (const AcDbObjectId& id : space->entityIds()) {
-        CXimoCEntityPtr text(id, AcDb::kForRead);
-        if (auto* mtext = dynamic_cast<const AcDbMText*>(text.get())) {
-            ++texts;
-            if (id != comments->first()) {
-                EXPECT_EQ(mtext->location(), AcGePoint3d(500, 500, 0));
-            }
-        }
-    }
-    EXPECT_EQ(texts, 2);
-
-    manager->ReloadInstanceStorage();
-    const auto read = manager->GetASIStorage()->GetASInstanceById(sheet->GetGuid().c_str());
-    ASSERT_TRUE(read && read->GetDrawnEntitiesByComponent(L"01CMMNT"));
-    EXPECT_EQ(read->GetDrawnEntitiesByComponent(L"01CMMNT")->first(), comments->first());
-}
-
-TEST_F(EditorTest, AManholeViewNeedsASelectedSheetWithTheViewComponentAndANode) {
-    EXPECT_EQ(editor->DrawManholeView(1), 0);  // nothing selected
-    auto definition = Definition(210, 297, 0, {L"01SCHEME"});
-    Store({definition.get()});
-    DrawStored(*definition, {0, 0, 0});
-    acedInputScript()->addPick({10, 10, 0});
-    EXPECT_EQ(editor->DrawManholeView(0), 0);  // the definition has no top view component
-    EXPECT_EQ(acedInputScript()->prompts().back(), L"\nSelect a scheme: ");
 }
 
 namespace {
@@ -360,10 +250,9 @@ protected:
     void SetUp() override {
         EditorTest::SetUp();
         manager->RegisterAssemblyElement(provider);
-        auto type = boost::make_shared<XimoGis::Data::CPropertyEx>(L"AS_ELEMENTTYPE",
-                                                                   XimoGis::Data::enmPropertyValueType::Text);
         item.GetProperties().AddCategory(0, 0, 0);
-        item.GetProperties().AddProperty(0, type);
+        item.GetProperties().AddProperty(
+            0, boost::make_shared<CPropertyEx>(L"AS_ELEMENTTYPE", enmPropertyValueType::Text));
         item.GetProperties().SetPropertyValue(L"AS_ELEMENTTYPE", L"TEST_ELBOW");
         auto definition = Definition(210, 297, 0, {L"01SCHEME"});
         Store({definition.get()});
@@ -375,7 +264,7 @@ protected:
     }
 
     boost::shared_ptr<ElbowProvider> provider =
-        boost::make_shared<ElbowProvider>([this](const AcGeVector3d& at) { return ElbowAt(at); });
+        boost::make_shared<ElbowProvider>([this](const AcGeVector3d& at) { return Elbow(at); });
     XimoGis::Data::CCatalogItem item{L"{ELBOW-1}", L"Q 100", false, L"ELEMENT_BLOCK01"};
     boost::shared_ptr<CASInstance> sheet;
 };
@@ -387,42 +276,32 @@ TEST_F(ElementPlacement, APlacedElementBelongsToTheSheetUnderItsHandleWithItsNum
     ASSERT_EQ(editor->DrawASElement(&item, eViewTop), 1);
     EXPECT_EQ(acedInputScript()->prompts().front(), L"ElementFlange SchemeFlange Mirror Rotate");
     EXPECT_EQ(acedInputScript()->prompts().size(), 4u);  // each keyword, and unknown text, asks again
-
     ASSERT_EQ(sheet->GetElementInstances().size(), 1u);
     const auto& element = sheet->GetElementInstances().begin()->second;
     EXPECT_EQ(element->GetCatalogId(), L"{ELBOW-1}");
     EXPECT_EQ(element->GetTypeProviderId(), L"TEST_ELBOW");
     EXPECT_EQ(element->GetElementNumber(), 1);
     const AcDbObjectIdArray& ids = *element->GetObjects();
-    ASSERT_EQ(ids.length(), 4);
     EXPECT_EQ(LayerOf(ids[0]), L"VOD_SCHEME");
     EXPECT_EQ(sheet->GetDrawnEntitiesByComponent(L"01SCHEME")->length(), 4);
-    // Turned a quarter about (50, 50), then mirrored about its own axis: the left flange came
-    // below the centre and stayed there, the top flange went from above-left to below-right.
+    // Turned a quarter about (50, 50), then mirrored about its own axis there.
     const auto flanges = CASFlange::Find(ids);
     ASSERT_EQ(flanges.size(), 2u);
     EXPECT_EQ(flanges[0].GetMidPoint(), AcGePoint3d(50, 40, 0));
     EXPECT_EQ(flanges[1].GetMidPoint(), AcGePoint3d(60, 50, 0));
 
-    // The sheet's element survives a rescan, with the entity type of elements.
-    manager->ReloadInstanceStorage();
-    const auto read = manager->GetASIStorage()->GetASInstanceById(sheet->GetGuid().c_str());
-    ASSERT_TRUE(read);
-    ASSERT_EQ(read->GetElementInstances().size(), 1u);
-    EXPECT_EQ(read->GetElementInstances().begin()->second->GetObjects()->length(), 4);
     EXPECT_FALSE(CASEditor::GetDragData()->AreButtonsShown());
 }
 
 TEST_F(ElementPlacement, CancellingOrPlacingOffEverySheetLeavesNothingDrawn) {
-    acedInputScript()->addScript(L"move 50,50; escape");
+    acedInputScript()->addScript(L"move 50,50; escape; pick 5000,5000");
     EXPECT_EQ(editor->DrawASElement(&item, eViewFront), 0);
-    acedInputScript()->addScript(L"pick 5000,5000");
     EXPECT_EQ(editor->DrawASElement(&item, eViewFront), 0);
     EXPECT_EQ(editor->DrawASElement(nullptr, eViewFront), 0);
     EXPECT_TRUE(sheet->GetElementInstances().empty());
     AcDbObjectPointer<AcDbBlockTableRecord> space(database->modelSpaceId(), AcDb::kForRead);
     for (const AcDbObjectId& id : space->entityIds()) {
         CXimoCEntityPtr entity(id, AcDb::kForRead);
-        EXPECT_FALSE(CASFlange::IsFlangeLine(entity.get())) << "left drawn: " << id.handle();
+        EXPECT_FALSE(CASFlange::IsFlangeLine(entity.get())) << id.handle();
     }
 }

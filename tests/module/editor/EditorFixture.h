@@ -1,6 +1,6 @@
 #pragma once
-// A workspace whose active water system (1, topology type 8) has the scheme layers, a new drawing
-// document, and scheme definitions made in memory as the editor draws them.
+// A workspace whose active water system (1, topology type 8) has scheme layers, a new drawing
+// document, and scheme definitions made in memory.
 
 #include "framework/TempFolder.h"
 #include "module/components/IASComponentInterface.h"
@@ -12,7 +12,6 @@
 #include "module/manager/CASManager.h"
 
 #include "framework/cad/CXimoCDraw.h"
-#include "framework/cad/CXimoCEntityPtr.h"
 #include "framework/repository/CRepositoryManager.h"
 #include "framework/systems/CSystemManager.h"
 #include "host/documents/AcApDocManager.h"
@@ -33,13 +32,9 @@ protected:
                                       {{L"SCHEME", L"VOD_SCHEME", 7, L"Continuous"},
                                        {L"SCHEME_NP", L"VOD_SCHEME_NP", 8, L"Continuous"},
                                        {L"00FRAME", L"VOD_FRAME", 7, L"Continuous"},
-                                       {L"01SCHEME", L"VOD_ELEMENTS", 7, L"Continuous"},
-                                       {L"01CMMNT", L"VOD_COMMENTS", 2, L"Continuous"},
-                                       {L"05MANH_S", L"VOD_MANHOLE_SIDE", 4, L"Continuous"},
-                                       {L"05MANH_T", L"VOD_MANHOLE_TOP", 4, L"Continuous"}},
+                                       {L"01CMMNT", L"VOD_COMMENTS", 2, L"Continuous"}},
                                       error);
-        ASSERT_TRUE(water) << error;
-        ASSERT_TRUE(systems->SetActiveSystem(water, error)) << error;
+        ASSERT_TRUE(water && systems->SetActiveSystem(water, error)) << error;
         ASSERT_EQ(acDocManager->appContextNewDocument(), Acad::eOk);
         document = acDocManager->curDocument();
         database = document->database();
@@ -52,8 +47,7 @@ protected:
         systems->CloseWorkspace();
     }
 
-    // A definition of the paper size with the frame switch, holding the components given by
-    // type id, each with its type's default record.
+    // A definition of the paper size and frame switch holding the components given by type id.
     boost::shared_ptr<CASDefinition> Definition(double width, double height, int paperFrame,
                                                 std::initializer_list<const wchar_t*> components = {}) {
         auto definition = boost::make_shared<CASDefinition>();
@@ -62,16 +56,21 @@ protected:
         properties.SetPropertyValue(L"ASPW", width);
         properties.SetPropertyValue(L"ASPH", height);
         properties.SetPropertyValue(L"ASDPF", paperFrame);
-        for (const wchar_t* type : components) definition->AddComponent(Component(type));
+        for (const wchar_t* type : components)
+            definition->AddComponent(manager->GetASComponentById(type)->CreateComponentData());
         return definition;
     }
-    boost::shared_ptr<CASComponentData> Component(const wchar_t* type) const {
-        return manager->GetASComponentById(type)->CreateComponentData();
+    // Makes the definitions the active system's repository, as the definition editor saves them.
+    void Store(std::initializer_list<const CASDefinition*> definitions) const {
+        std::wstring xml = L"<schemes version=\"1\" exploded=\"0\">";
+        for (const CASDefinition* definition : definitions) xml += definition->GetXML();
+        std::wstring error;
+        ASSERT_TRUE(water->SetSubXMLByReferenceId(L"AS", xml + L"</schemes>", error)) << error;
+        CRepositoryManager::GetSystemRepository(water, L"AS", CRepositoryManager::kReload);
     }
     // The sheet drawn, serialised and stored as the grid draws its sheets.
-    boost::shared_ptr<CASInstance> DrawStored(CASDefinition& definition, AcGePoint3d base,
-                                              Topology::CNode* node = nullptr) {
-        auto sheet = editor->Draw(base, &definition, node);
+    boost::shared_ptr<CASInstance> DrawStored(CASDefinition& definition, AcGePoint3d base) {
+        auto sheet = editor->Draw(base, &definition, nullptr);
         sheet->Serialize(water);
         manager->GetASIStorage()->AddASInstance(sheet);
         return sheet;
@@ -80,8 +79,6 @@ protected:
         CXimoCEntityPtr entity(id, AcDb::kForRead);
         return entity ? entity->layer() : L"(none)";
     }
-    static bool IsErased(AcDbObjectId id) { return id.isErased(); }
-    // A line marked as a flange line, and a plain line.
     AcDbObjectId Flange(const AcGePoint3d& start, const AcGePoint3d& end) const {
         database->registerApplication(L"AMS_PRIRUBNICA");
         CXimoCEntityPtr line = CXimoCDraw::line(start, end);
@@ -91,23 +88,13 @@ protected:
     static AcDbObjectId Line(const AcGePoint3d& start, const AcGePoint3d& end) {
         return CXimoCDraw::line(start, end).objectId();
     }
-    // An elbow drawn at `at`: a flange facing left on the y axis, one facing up at (10, 10), and
-    // its bend; the flange axes meet at (10, 0).
-    AcDbObjectIdArray Elbow(const AcGeVector3d& at = {0, 0, 0}) const { return ElbowAt(at); }
-    AcDbObjectIdArray ElbowAt(const AcGeVector3d& at) const {
+    // An elbow: a flange facing left on the y axis, one facing up at (10, 10) and its bend; the
+    // flange axes meet at (10, 0).
+    AcDbObjectIdArray Elbow(const AcGeVector3d& at = {0, 0, 0}) const {
         const AcGePoint3d o = AcGePoint3d::kOrigin + at;
         return {Flange(o + AcGeVector3d(0, -3, 0), o + AcGeVector3d(0, 3, 0)),
                 Flange(o + AcGeVector3d(7, 10, 0), o + AcGeVector3d(13, 10, 0)),
-                Line(o + AcGeVector3d(0, 0, 0), o + AcGeVector3d(10, 0, 0)),
-                Line(o + AcGeVector3d(10, 0, 0), o + AcGeVector3d(10, 10, 0))};
-    }
-    // Makes the definitions the active system's repository, as if saved by the definition editor.
-    void Store(std::initializer_list<const CASDefinition*> definitions) const {
-        std::wstring xml = L"<schemes version=\"1\" exploded=\"0\">";
-        for (const CASDefinition* definition : definitions) xml += definition->GetXML();
-        std::wstring error;
-        ASSERT_TRUE(water->SetSubXMLByReferenceId(L"AS", xml + L"</schemes>", error)) << error;
-        CRepositoryManager::GetSystemRepository(water, L"AS", CRepositoryManager::kReload);
+                Line(o, o + AcGeVector3d(10, 0, 0)), Line(o + AcGeVector3d(10, 0, 0), o + AcGeVector3d(10, 10, 0))};
     }
 
     XimoGis::Testing::TempFolder folder;
