@@ -16,7 +16,7 @@ namespace XimoGis::Asch {
 class CManholeCommand : public IAschCommand {
 public:
     std::string GetName() const override { return "manhole"; }
-    std::string GetSummary() const override { return "draw a node's manhole, side and top view"; }
+    std::string GetSummary() const override { return "draw a node's manhole views, alone or on its scheme sheet"; }
     std::string GetSynopsis() const override {
         return "asch manhole DIR NODE -o OUT.svg|OUT.dxf [--system ID] [--scale S]\n"
                "       asch manhole --workspace W --drawing D.dxf --scheme ID --side|--top --at X,Y";
