@@ -139,7 +139,7 @@ private:
         m_sketch.AddPolyline(std::move(points), true);
     }
 
-    const CFittingProjection::Frame& m_frame;
+    const CFittingProjection::Frame m_frame;  // a copy: views give their frames by value
     CFittingSketch& m_sketch;
 };
 
