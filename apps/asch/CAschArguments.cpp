@@ -9,6 +9,26 @@ namespace po = boost::program_options;
 
 namespace XimoGis::Asch {
 
+namespace {
+
+// Finite numbers separated by commas; empty when one of them is not a number.
+std::vector<double> ReadNumbers(const std::string& text) {
+    std::vector<double> numbers;
+    std::istringstream in(text);
+    in.imbue(std::locale::classic());
+    std::string part;
+    while (std::getline(in, part, ',')) {
+        std::istringstream number(part);
+        number.imbue(std::locale::classic());
+        double value = 0.0;
+        if (!(number >> value) || !(number >> std::ws).eof() || !std::isfinite(value)) return {};
+        numbers.push_back(value);
+    }
+    return numbers;
+}
+
+}  // namespace
+
 CAschArguments::CAschArguments(std::string command) : m_command(std::move(command)), m_options("Options") {
     m_options.add_options()("help,h", "show this help");
 }
@@ -17,6 +37,12 @@ CAschArguments& CAschArguments::AddDrawing(const char* help) {
     m_hidden.add_options()("drawing", po::value<std::string>(), help);
     m_positional.add("drawing", 1);
     m_required.emplace_back("drawing", "no drawing given");
+    return *this;
+}
+
+CAschArguments& CAschArguments::AddDrawingOption(const char* help) {
+    m_options.add_options()("drawing", po::value<std::string>()->value_name("D.dxf"), help);
+    m_required.emplace_back("drawing", "no drawing given (--drawing D.dxf)");
     return *this;
 }
 
@@ -69,20 +95,7 @@ bool CAschArguments::Parse(const std::vector<std::string>& words, std::string& e
 }
 
 bool CAschArguments::ParseWindow(const std::string& text, std::string& error) {
-    std::vector<double> numbers;
-    std::istringstream in(text);
-    in.imbue(std::locale::classic());
-    std::string part;
-    while (std::getline(in, part, ',')) {
-        std::istringstream number(part);
-        number.imbue(std::locale::classic());
-        double value = 0.0;
-        if (!(number >> value) || !(number >> std::ws).eof() || !std::isfinite(value)) {
-            numbers.clear();
-            break;
-        }
-        numbers.push_back(value);
-    }
+    const std::vector<double> numbers = ReadNumbers(text);
     if (numbers.size() != 4) {
         error = "--window wants four numbers X1,Y1,X2,Y2, not '" + text + "'";
         return false;
@@ -93,6 +106,34 @@ bool CAschArguments::ParseWindow(const std::string& text, std::string& error) {
     }
     // Any two opposite corners.
     m_window = AcDbExtents(AcGePoint3d(numbers[0], numbers[1], 0.0), AcGePoint3d(numbers[2], numbers[3], 0.0));
+    return true;
+}
+
+bool CAschArguments::ParsePoint(const std::string& option, const std::string& text, AcGePoint3d& point,
+                                std::string& error) {
+    const std::vector<double> numbers = ReadNumbers(text);
+    if (numbers.size() != 2 && numbers.size() != 3) {
+        error = "--" + option + " wants a point X,Y or X,Y,Z, not '" + text + "'";
+        return false;
+    }
+    point.set(numbers[0], numbers[1], numbers.size() == 3 ? numbers[2] : 0.0);
+    return true;
+}
+
+bool CAschArguments::GetPoint(const char* name, AcGePoint3d& point, std::string& error) const {
+    if (!m_values.count(name)) {
+        error = std::string("no point given (--") + name + " X,Y)";
+        return false;
+    }
+    return ParsePoint(name, m_values[name].as<std::string>(), point, error);
+}
+
+bool CAschArguments::GetPoint(const char* name, std::optional<AcGePoint3d>& point, std::string& error) const {
+    point.reset();
+    if (!m_values.count(name)) return true;
+    AcGePoint3d value;
+    if (!ParsePoint(name, m_values[name].as<std::string>(), value, error)) return false;
+    point = value;
     return true;
 }
 

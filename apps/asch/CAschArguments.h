@@ -11,6 +11,7 @@
 #include <vector>
 
 #include "host/database/AcDbExtents.h"
+#include "host/geometry/AcGePoint3d.h"
 
 namespace XimoGis::Asch {
 
@@ -20,6 +21,8 @@ public:
 
     // The drawing file, the first argument after the command; required.
     CAschArguments& AddDrawing(const char* help = "the drawing, a DXF file");
+    // "--drawing D.dxf": the drawing as an option, for commands that work over a workspace; required.
+    CAschArguments& AddDrawingOption(const char* help = "the drawing, a DXF file (made when it does not exist)");
     // A further word in its place after the command (after the drawing, when there is one), in the
     // order of declaration, e.g. "asch workspace init DIR"; `name` also names it in messages.
     CAschArguments& AddPositional(const char* name, const char* help, bool required = true);
@@ -41,6 +44,13 @@ public:
     std::wstring GetOutput() const { return Wide("output"); }
     // A text value by name (a positional or an option); empty when not given.
     std::wstring GetText(const char* name) const { return Wide(name); }
+    // The point "X,Y" or "X,Y,Z" of an option; false with a message naming the option when the
+    // text is not such a point.
+    static bool ParsePoint(const std::string& option, const std::string& text, AcGePoint3d& point, std::string& error);
+    // The point of an option: false with a message when it was not given or is not a point.
+    bool GetPoint(const char* name, AcGePoint3d& point, std::string& error) const;
+    // The same for an option that may be left out: true, with `point` empty, when it was.
+    bool GetPoint(const char* name, std::optional<AcGePoint3d>& point, std::string& error) const;
     // The window when one was given.
     const std::optional<AcDbExtents>& GetWindow() const { return m_window; }
     const boost::program_options::variables_map& GetValues() const { return m_values; }

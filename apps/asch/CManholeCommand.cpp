@@ -1,5 +1,7 @@
 #include "CManholeCommand.h"
 
+#include "CSchemeDrawing.h"
+
 #include "framework/config/CModuleConfiguration.h"
 #include "framework/data/CManholeManager.h"
 #include "framework/manholescheme/CMSManager.h"
@@ -7,7 +9,10 @@
 #include "framework/topology/CTopologyMultiStorage.h"
 #include "framework/workspace/CWsManager.h"
 #include "host/base/AcString.h"
+#include "host/input/AcEdInputScript.h"
 #include "host/svg/AcSvgRenderer.h"
+#include "module/editor/CASEditor.h"
+#include "module/instances/CASInstance.h"
 
 namespace XimoGis::Asch {
 
@@ -20,15 +25,26 @@ bool EndsWith(const std::wstring& text, const std::wstring& end) {
 }  // namespace
 
 void CManholeCommand::DescribeArguments(CAschArguments& arguments) const {
-    arguments.AddPositional("folder", "the workspace folder").AddPositional("node", "the node's name or GUID");
-    arguments.AddOutput("the drawing to write: .dxf, or else an SVG picture");
-    arguments.AddOptions()("system", boost::program_options::value<int>()->value_name("ID"),
-                           "the system of the node (the active one when not given)")(
-        "scale", boost::program_options::value<double>()->value_name("S")->default_value(0.02),
-        "drawing millimetres per millimetre of the manhole (0.02 is 1:50)");
+    namespace po = boost::program_options;
+    arguments.AddPositional("folder", "the workspace folder (standalone views)", false)
+        .AddPositional("node", "the node's name or GUID (standalone views)", false);
+    arguments.AddOptions()("output,o", po::value<std::string>()->value_name("PATH"),
+                           "the drawing to write: .dxf, or else an SVG picture (standalone views)")(
+        "system", po::value<int>()->value_name("ID"), "the system of the node (the active one when not given)")(
+        "scale", po::value<double>()->value_name("S")->default_value(0.02),
+        "drawing millimetres per millimetre of the manhole (0.02 is 1:50)")(
+        "workspace", po::value<std::string>()->value_name("W"), "the workspace folder (view on a sheet)")(
+        "drawing", po::value<std::string>()->value_name("D.dxf"), "the drawing with the sheet")(
+        "scheme", po::value<std::string>()->value_name("ID"), "the scheme sheet whose node's manhole is drawn")(
+        "side", "the side view")("top", "the top view")(
+        "at", po::value<std::string>()->value_name("X,Y"), "where the middle of the view goes");
 }
 
 int CManholeCommand::Run(const CAschArguments& arguments, CAschConsole& console) const {
+    if (arguments.GetValues().count("drawing")) return RunOnScheme(arguments, console);
+    if (arguments.GetText("folder").empty()) return console.Fail(std::string("no folder given"));
+    if (arguments.GetText("node").empty()) return console.Fail(std::string("no node given"));
+    if (arguments.GetOutput().empty()) return console.Fail(std::string("no output given (-o PATH)"));
     const std::wstring folder = arguments.GetText("folder");
     std::wstring error;
     auto* systems = System::CSystemManager::Instance();
@@ -76,6 +92,38 @@ int CManholeCommand::Run(const CAschArguments& arguments, CAschConsole& console)
                                           : acdbWriteSvgFile(db, picture, output.c_str(), &error);
     if (written != Acad::eOk) return console.Fail(error);
     console.Out() << "wrote " << acutWcharToUtf8(output) << ": " << ids.length() << " entities\n";
+    return kExitOk;
+}
+
+int CManholeCommand::RunOnScheme(const CAschArguments& arguments, CAschConsole& console) const {
+    const auto& values = arguments.GetValues();
+    if (arguments.GetWorkspace().empty()) return console.Fail(std::string("no workspace given (--workspace W)"));
+    if (values.count("side") == values.count("top")) return console.Fail(std::string("give either --side or --top"));
+    if (!values.count("scheme")) return console.Fail(std::string("no scheme given (--scheme ID)"));
+    AcGePoint3d at;
+    std::string usage;
+    if (!arguments.GetPoint("at", at, usage)) return console.Fail(usage);
+    CSchemeDrawing drawing;
+    std::wstring error;
+    if (!drawing.Open(arguments.GetWorkspace(), arguments.GetDrawing(), error)) return console.Fail(error);
+    const auto scheme = drawing.FindScheme(arguments.GetText("scheme"), error);
+    if (!scheme) return console.Fail(error);
+    // The user selects the sheet by a point on it, then places the view.
+    AcGePoint3d base;
+    scheme->GetBasePoint(base);
+    acedInputScript()->addPick(base + AcGeVector3d(scheme->GetWidth() / 2.0, scheme->GetHeight() / 2.0, 0.0));
+    acedInputScript()->addPick(at);
+    auto* log = Workspace::CWsManager::Instance();
+    const std::size_t logged = log->GetMessages().size();
+    if (!AssemblySchemes::CASEditor::Instance()->DrawManholeView(values.count("side") ? 1 : 0)) {
+        const auto& messages = log->GetMessages();
+        return console.Fail(messages.size() > logged ? messages.back().text
+                                                      : L"the sheet's definition has no manhole view component, or "
+                                                        L"the sheet has no node of the network");
+    }
+    if (!drawing.Save(error)) return console.Fail(error);
+    console.Out() << "drew the manhole " << (values.count("side") ? "side" : "top") << " view into "
+                  << acutWcharToUtf8(drawing.GetFileName()) << '\n';
     return kExitOk;
 }
 

@@ -5,10 +5,15 @@
 #include <string>
 #include <vector>
 
+#include "CAddElementCommand.h"
 #include "CAschCommandRegistry.h"
 #include "CCatalogCommand.h"
+#include "CCommentCommand.h"
 #include "CDefinitionsCommand.h"
+#include "CDeleteCommand.h"
 #include "CDemoCommand.h"
+#include "CDrawCommand.h"
+#include "CGridCommand.h"
 #include "CInfoCommand.h"
 #include "CListCommand.h"
 #include "CManholeCommand.h"
@@ -18,9 +23,14 @@
 int main(int argc, char** argv) {
     using namespace XimoGis::Asch;
     CAschCommandRegistry registry;
+    registry.Register(std::make_unique<CAddElementCommand>());
     registry.Register(std::make_unique<CCatalogCommand>());
+    registry.Register(std::make_unique<CCommentCommand>());
     registry.Register(std::make_unique<CDefinitionsCommand>());
+    registry.Register(std::make_unique<CDeleteCommand>());
     registry.Register(std::make_unique<CDemoCommand>());
+    registry.Register(std::make_unique<CDrawCommand>());
+    registry.Register(std::make_unique<CGridCommand>());
     registry.Register(std::make_unique<CInfoCommand>());
     registry.Register(std::make_unique<CListCommand>());
     registry.Register(std::make_unique<CRenderCommand>());

@@ -15,8 +15,7 @@ public:
     int OnBeforeSystemEntitiesDeleted(CGisSystem* system) override;
 
 private:
-    // With the current document locked: rescans its drawing for the schemes of every system,
-    // erases each sheet's entities and empties its instance storage.
+    // With the current document locked, the editor deletes every scheme of the drawing.
     static void DeleteASInstances();
 };
 

@@ -37,12 +37,12 @@ protected:
 TEST_F(DefinitionsCommand, ListsAndShowsTheDemoSheets) {
     const auto list = Definitions("list");
     ASSERT_EQ(list.code, 0) << list.err;
-    EXPECT_NE(list.out.find("  A4 portrait  210 x 297  0 component(s)\n"), std::string::npos) << list.out;
-    EXPECT_NE(list.out.find("  A3 landscape  420 x 297  0 component(s)\n"), std::string::npos) << list.out;
+    EXPECT_NE(list.out.find("  A4 portrait  210 x 297  5 component(s)\n"), std::string::npos) << list.out;
+    EXPECT_NE(list.out.find("  A3 landscape  420 x 297  5 component(s)\n"), std::string::npos) << list.out;
     const auto show = Definitions("show 'A3 landscape'");
     ASSERT_EQ(show.code, 0) << show.err;
     EXPECT_EQ(show.out.rfind("definition \"A3 landscape\" {", 0), 0u) << show.out;
-    EXPECT_NE(show.out.find("  properties:\n    [Sheet]\n      LS_SCALE_X = 0.1  (Drawing scale)\n"
+    EXPECT_NE(show.out.find("  properties:\n    [Sheet]\n      LS_SCALE_X = 0.05  (Drawing scale)\n"
                             "      ASPW = 420  (Paper width)\n"),
               std::string::npos)
         << show.out;

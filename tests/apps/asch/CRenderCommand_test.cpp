@@ -3,6 +3,7 @@
 #include <pugixml.hpp>
 
 #include "apps/asch/AschTestSupport.h"
+#include "apps/asch/SchemeCommandSupport.h"
 
 using aschtest::run;
 
@@ -43,4 +44,28 @@ TEST(CRenderCommand, RejectsBadArgumentsAndNamesFiles) {
     const auto flatWindow = run("render a.dxf -o b.svg --window 1,2,1,5");
     EXPECT_EQ(flatWindow.code, 2);
     EXPECT_NE(flatWindow.err.find("no width or no height"), std::string::npos);
+}
+
+namespace {
+
+class RenderScheme : public aschtest::SchemeCommand {
+protected:
+    RenderScheme() : SchemeCommand("render_scheme") {}
+};
+
+}  // namespace
+
+TEST_F(RenderScheme, DrawsOneSheetOfAWorkspaceDrawing) {
+    ASSERT_EQ(Run("draw", "--definition 'A4 portrait' --at 0,0").code, 0);
+    const std::string right = SchemeId(Run("draw", "--definition 'A3 landscape' --at 300,0"));
+    const auto rendered = run("render " + drawing + " -o '" + folder / "right.svg" + "' --scheme " + right);
+    ASSERT_EQ(rendered.code, 0) << rendered.err;
+    pugi::xml_document svg;
+    ASSERT_TRUE(svg.load_file((folder / "right.svg").c_str()));
+    // Clipped to the sheet's rectangle, as wide as an A3 sheet against its height.
+    EXPECT_TRUE(svg.select_node("//clipPath"));
+    const auto size = svg.child("svg");
+    EXPECT_NEAR(size.attribute("width").as_double() / size.attribute("height").as_double(), 420.0 / 297.0, 0.05);
+    EXPECT_EQ(run("render " + drawing + " -o x.svg --scheme {NONE}").err,
+              "asch render: '" + folder / "schemes.dxf" + "' has no scheme sheet {NONE}\n");
 }
