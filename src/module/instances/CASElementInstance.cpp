@@ -20,10 +20,6 @@ using Data::CDataBox;
 using Data::CDataRW;
 using Data::CDDCache;
 
-namespace {
-constexpr int kCheckMarkColor = 3;
-}  // namespace
-
 CASElementInstance::CASElementInstance()
     : Topology::CEntity(etSchemeElement), m_elementId(Utility::CUtility::CreateGUID()) {}
 
@@ -153,7 +149,7 @@ int CASElementInstance::DrawCheckMark() {
     AcDbExtents extents;
     if (!GetExtents(extents)) return 0;
     const AcGeVector3d size = extents.maxPoint() - extents.minPoint();
-    return CASCheckMark::Draw(extents.center(), std::min(size.x, size.y), kCheckMarkColor) > 0 ? 1 : 0;
+    return CASCheckMark::Draw(extents.center(), std::min(size.x, size.y), CASCheckMark::kColor) > 0 ? 1 : 0;
 }
 
 std::wstring CASElementInstance::GetXML() {

@@ -28,7 +28,6 @@ using Data::CDDCache;
 
 namespace {
 
-constexpr int kCheckMarkColor = 3;
 constexpr const wchar_t* kTraceFile = L"AssemblySchemes_Instance";
 // Drawn by the user on a sheet; a known component although the manager does not register it.
 constexpr const wchar_t* kDimensionComponentId = L"00DIM";
@@ -276,7 +275,7 @@ int CASInstance::Mark(int mode, void*) {
 int CASInstance::DrawCheckMark() {
     if (m_width <= 0.0 || m_height <= 0.0) return 0;
     const AcGePoint3d centre(m_basePoint.x + m_width / 2.0, m_basePoint.y + m_height / 2.0, m_basePoint.z);
-    return CASCheckMark::Draw(centre, std::min(m_width, m_height) / 2.0, kCheckMarkColor) > 0 ? 1 : 0;
+    return CASCheckMark::Draw(centre, std::min(m_width, m_height) / 2.0, CASCheckMark::kColor) > 0 ? 1 : 0;
 }
 
 std::wstring CASInstance::GetXML() {

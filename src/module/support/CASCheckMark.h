@@ -12,6 +12,8 @@ class CASCheckMark {
 public:
     // 24 vertices and the closing repeat of the first; spans about -0.49..0.49 by -0.47..0.35.
     static const wchar_t* const kOutlineWKT;
+    // Sheets and elements are ticked in green.
+    static constexpr int kColor = 3;
 
     // Draws the outline as a polyline into model space of the working database in a colour index;
     // the entities are not kept track of. Returns the number of entities drawn (0 without a
