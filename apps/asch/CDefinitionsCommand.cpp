@@ -1,8 +1,9 @@
 #include "CDefinitionsCommand.h"
 
+#include "CAschWorkspace.h"
+
 #include "CDefinitionOutline.h"
 
-#include "framework/config/CModuleConfiguration.h"
 #include "framework/repository/CRepositoryManager.h"
 #include "framework/systems/CSystemManager.h"
 #include "host/base/AcString.h"
@@ -159,8 +160,7 @@ int CDefinitionsCommand::Run(const CAschArguments& arguments, CAschConsole& cons
     std::wstring error;
     if (!ReadEdit(arguments, edit, error)) return console.Fail(error);
 
-    if (!CModuleConfiguration::Instance()->Open(arguments.GetWorkspace(), error)) return console.Fail(error);
-    if (!System::CSystemManager::Instance()->OpenWorkspace(error)) return console.Fail(error);
+    if (!OpenAschWorkspace(arguments.GetWorkspace(), error)) return console.Fail(error);
     CGisSystem* system = ChooseSystem(arguments, error);
     if (!system) return console.Fail(error);
     CASRepository* repository = OpenRepository(system, error);

@@ -1,8 +1,9 @@
 #include "CListCommand.h"
 
+#include "CAschWorkspace.h"
+
 #include "CSchemeListing.h"
 
-#include "framework/config/CModuleConfiguration.h"
 #include "framework/systems/CSystemManager.h"
 #include "host/documents/AcApDocManager.h"
 #include "module/instances/CASInstanceStorage.h"
@@ -24,8 +25,7 @@ void CListCommand::DescribeArguments(CAschArguments& arguments) const {
 int CListCommand::Run(const CAschArguments& arguments, CAschConsole& console) const {
     std::wstring error;
     auto* systems = System::CSystemManager::Instance();
-    if (!CModuleConfiguration::Instance()->Open(arguments.GetWorkspace(), error) || !systems->OpenWorkspace(error))
-        return console.Fail(error);
+    if (!OpenAschWorkspace(arguments.GetWorkspace(), error)) return console.Fail(error);
     System::CGisSystem* system = nullptr;
     if (arguments.GetValues().count("system")) {
         const int id = arguments.GetValues()["system"].as<int>();

@@ -1,5 +1,7 @@
 #include "CManholeCommand.h"
 
+#include "CAschWorkspace.h"
+
 #include "CSchemeDrawing.h"
 
 #include "framework/config/CModuleConfiguration.h"
@@ -48,8 +50,7 @@ int CManholeCommand::Run(const CAschArguments& arguments, CAschConsole& console)
     const std::wstring folder = arguments.GetText("folder");
     std::wstring error;
     auto* systems = System::CSystemManager::Instance();
-    if (!CModuleConfiguration::Instance()->Open(folder, error) || !systems->OpenWorkspace(folder, error))
-        return console.Fail(error);
+    if (!OpenAschWorkspace(folder, error)) return console.Fail(error);
     const auto& values = arguments.GetValues();
     System::CGisSystem* system =
         values.count("system") ? systems->GetSystemById(values["system"].as<int>()) : systems->GetActiveSystem();

@@ -1,6 +1,7 @@
 #include "CSchemeDrawing.h"
 
-#include "framework/config/CModuleConfiguration.h"
+#include "CAschWorkspace.h"
+
 #include "framework/repository/CRepositoryManager.h"
 #include "framework/systems/CSystemManager.h"
 #include "framework/topology/CNode.h"
@@ -26,7 +27,7 @@ CSchemeDrawing::~CSchemeDrawing() {
 
 bool CSchemeDrawing::Open(const std::wstring& workspace, const std::wstring& drawing, std::wstring& error) {
     auto* systems = System::CSystemManager::Instance();
-    if (!CModuleConfiguration::Instance()->Open(workspace, error) || !systems->OpenWorkspace(error)) return false;
+    if (!OpenAschWorkspace(workspace, error)) return false;
     m_system = systems->GetActiveSystem();
     if (!m_system || m_system->GetTopologyType() != System::CGisSystem::kSchemeTopologyType) {
         error = L"workspace '" + workspace + L"' has no active system that carries assembly schemes";
