@@ -1,5 +1,7 @@
 #include "module/editor/CASEditor.h"
 
+#include "host/base/AcString.h"
+
 #include "module/catalog/CASElementDrawing.h"
 #include "module/components/IASComponentInterface.h"
 #include "module/definitions/CASDefinition.h"
@@ -39,7 +41,6 @@
 #include <boost/make_shared.hpp>
 
 #include <algorithm>
-#include <cwctype>
 #include <limits>
 
 namespace XimoGis::AssemblySchemes {
@@ -527,8 +528,7 @@ void CASEditor::DrawCheckMark(const AcGePoint3d& point, double size, double, int
 
 void CASEditor::OnButtonClicked(const wchar_t* id) {
     if (!id || !m_pDragGenData_Draw) return;
-    std::wstring upper(id);
-    std::transform(upper.begin(), upper.end(), upper.begin(), [](wchar_t c) { return std::towupper(c); });
+    const std::wstring upper = acutUpperName(id);
     if (upper == L"ROTATE") {
         m_pDragGenData_Draw->SetMode(CDragGenData_Draw::eModeRotate);
     } else if (upper == L"MIRROR") {
