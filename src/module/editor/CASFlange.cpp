@@ -1,6 +1,7 @@
 #include "module/editor/CASFlange.h"
 
 #include "module/instances/CASInstance.h"
+#include "module/manager/IAssemblyElementTypeProvider.h"
 #include "module/support/CASEntityGroup.h"
 
 #include "framework/cad/CXimoCEntityPtr.h"
@@ -15,7 +16,7 @@ CASFlange::CASFlange(const AcGePoint3d& start, const AcGePoint3d& end, AcDbObjec
     : m_start(start), m_end(end), m_id(id), m_part(part) {}
 
 bool CASFlange::IsFlangeLine(const AcDbEntity* entity) {
-    return dynamic_cast<const AcDbLine*>(entity) && entity->xDataFor(kApplication);
+    return dynamic_cast<const AcDbLine*>(entity) && entity->xDataFor(IAssemblyElementTypeProvider::kFlangeApplication);
 }
 
 std::vector<CASFlange> CASFlange::Find(const AcDbObjectIdArray& ids) {

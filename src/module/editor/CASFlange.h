@@ -18,8 +18,6 @@ class CASInstance;
 
 class CASFlange {
 public:
-    static constexpr const wchar_t* kApplication = L"AMS_PRIRUBNICA";
-
     // `part` tells apart the flange lines of one block reference.
     CASFlange(const AcGePoint3d& start, const AcGePoint3d& end, AcDbObjectId id = {}, int part = 0);
 
